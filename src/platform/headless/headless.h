@@ -1,0 +1,47 @@
+// The headless backend's controls: what a test or the headless program drives.
+//
+// The headless platform draws into a 640 x 480 off-screen OSMesa context, keeps a virtual
+// millisecond clock that moves only when the game waits, reads keys and pads from the
+// state set here (or from a script), counts presented frames and can capture them as PNG.
+#pragma once
+#include <cstdint>
+
+constexpr int HEADLESS_WIDTH = 640;
+constexpr int HEADLESS_HEIGHT = 480;
+
+// Keys (Windows virtual-key codes) and pads (1 or 2) as the game will read them.
+void Headless_SetKey(int vk, bool down);
+void Headless_SetJoyPresent(int pad, bool present);
+void Headless_SetJoyAxis(int pad, char axis, std::uint32_t value);  // axis 'x' or 'y'
+void Headless_SetJoyButton(int pad, int button, bool down);         // button 1..32
+void Headless_ResetInput();
+
+// Script: one event a line, "FRAME down KEY", "FRAME up KEY", "FRAME tap KEY",
+// "FRAME joy PAD axis x|y VALUE", "FRAME joy PAD button B down|up"; blank lines and lines
+// starting with '#' are skipped. FRAME counts the game's frames from 0; an event for frame F
+// takes effect before frame F runs. Returns 1, or 0 with a message naming the line in `err`.
+int Headless_LoadScript(const char* path, char* err, int err_size);
+// Applies the script's events for `frame`. Called by the main loop before each frame.
+void Headless_ApplyScript(long frame);
+
+// Key name as the script writes it (F1, ESC, A..Z, ...) to its virtual-key code, or -1.
+int Headless_KeyCode(const char* name);
+
+// Run control. The main loop stops after `frames` frames (0 = until the game quits).
+void Headless_SetFrameLimit(long frames);
+// Capture every `every`-th presented frame as DIR/frame-NNNNNN.png (NNNNNN its number).
+void Headless_SetShots(const char* dir, int every);
+// Reports the game's current mode for the summary line.
+void Headless_SetModeProbe(int (*probe)());
+
+long Headless_Frames();     // frames run (per-frame callback calls)
+long Headless_Presented();  // buffer swaps
+std::uint32_t Headless_Clock();
+void Headless_AdvanceClock(std::uint32_t ms);  // time passing outside the game's waits
+
+// The picture last presented (RGBA, top row first), and a PNG of it.
+const std::uint8_t* Headless_Pixels();
+int Headless_WritePng(const char* path);
+
+// Prints the summary line "frames=N presented=P mode=M exit=S". Every ending prints it once.
+void Headless_PrintSummary(int status);

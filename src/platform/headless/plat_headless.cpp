@@ -1,0 +1,169 @@
+// The headless backend: OSMesa off-screen context, virtual clock, scripted devices.
+#include <GL/osmesa.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "platform/headless/headless.h"
+#include "platform/platform.h"
+
+namespace {
+
+// Everything the headless platform keeps. Written only by this file's hooks and the
+// Headless_* controls.
+struct HeadlessState {
+  OSMesaContext context = nullptr;
+  std::uint8_t draw[HEADLESS_WIDTH * HEADLESS_HEIGHT * 4];     // the context's colour buffer
+  std::uint8_t shown[HEADLESS_WIDTH * HEADLESS_HEIGHT * 4];    // last presented, top row first
+  std::uint32_t clock = 0;
+  std::uint8_t key_down[256];
+  std::uint8_t key_latch[256];
+  bool joy_present[2];
+  Plat_JoyPos joy[2];
+  long frame_limit = 0;
+  long frames = 0;
+  long presented = 0;
+  char shot_dir[512] = "";
+  int shot_every = 0;
+  int (*mode_probe)() = nullptr;
+  bool summary_printed = false;
+};
+HeadlessState H;
+
+void capture_presented() {
+  glFinish();
+  for (int row = 0; row < HEADLESS_HEIGHT; ++row) {  // the context's rows run bottom-up
+    const std::uint8_t* src = H.draw + (HEADLESS_HEIGHT - 1 - row) * HEADLESS_WIDTH * 4;
+    std::memcpy(H.shown + row * HEADLESS_WIDTH * 4, src, HEADLESS_WIDTH * 4);
+  }
+}
+
+}  // namespace
+
+// ---- platform hooks ----------------------------------------------------------------------
+void Plat_SaveDisplayMode() {}
+void Plat_SetGameDisplayMode() {}
+void Plat_RestoreDisplayMode() {}
+
+int Plat_OpenWindow(const char*) {
+  if (H.context == nullptr) {
+    H.context = OSMesaCreateContextExt(OSMESA_RGBA, 24, 0, 0, nullptr);
+    if (H.context == nullptr) return 0;
+  }
+  if (!OSMesaMakeCurrent(H.context, H.draw, GL_UNSIGNED_BYTE, HEADLESS_WIDTH, HEADLESS_HEIGHT))
+    return 0;
+  return 1;
+}
+
+std::uintptr_t Plat_FindWindow(const char*) { return 1; }  // the only window there is
+void Plat_FullScreen() {}
+
+void Plat_SwapBuffers() {
+  capture_presented();
+  ++H.presented;
+  if (H.shot_every > 0 && H.presented % H.shot_every == 0) {
+    char path[600];
+    std::snprintf(path, sizeof path, "%s/frame-%06ld.png", H.shot_dir, H.presented);
+    Headless_WritePng(path);
+  }
+}
+
+void Plat_RunMainLoop(Plat_Callback idle, Plat_ReshapeCallback reshape, Plat_Callback display) {
+  reshape(HEADLESS_WIDTH, HEADLESS_HEIGHT);  // as after going full screen
+  display();
+  while (H.frame_limit == 0 || H.frames < H.frame_limit) {
+    Headless_ApplyScript(H.frames);
+    idle();
+    ++H.frames;
+  }
+  Headless_PrintSummary(0);
+  std::fflush(stdout);
+  std::exit(0);
+}
+
+int Plat_KeyDown(int vk) {
+  if (vk < 0 || vk > 255) return 0;
+  const int down = H.key_down[vk] || H.key_latch[vk];
+  H.key_latch[vk] = 0;
+  return down;
+}
+
+void Plat_JoyInit() {}
+
+int Plat_JoyGetPos(int joystick, Plat_JoyPos* out) {
+  if (joystick < 1 || joystick > 2 || !H.joy_present[joystick - 1]) return 1;
+  *out = H.joy[joystick - 1];
+  return 0;
+}
+
+std::uint32_t Plat_TickCount() { return H.clock; }
+void Plat_WaitMs(int ms) {
+  if (ms > 0) H.clock += static_cast<std::uint32_t>(ms);
+}
+
+void Plat_DebugOut(const char* text) { std::fprintf(stderr, "%s\n", text); }
+
+void Plat_Exit(int status) {
+  Headless_PrintSummary(status);
+  std::fflush(stdout);
+  std::exit(status);
+}
+
+// ---- controls ----------------------------------------------------------------------------
+void Headless_SetKey(int vk, bool down) {
+  if (vk < 0 || vk > 255) return;
+  H.key_down[vk] = down ? 1 : 0;
+  if (down) H.key_latch[vk] = 1;  // a press shorter than a poll still counts once
+}
+
+void Headless_SetJoyPresent(int pad, bool present) {
+  if (pad < 1 || pad > 2) return;
+  H.joy_present[pad - 1] = present;
+  if (present && H.joy[pad - 1].x == 0 && H.joy[pad - 1].y == 0)
+    H.joy[pad - 1] = {32767, 32767, 0};
+}
+
+void Headless_SetJoyAxis(int pad, char axis, std::uint32_t value) {
+  if (pad < 1 || pad > 2) return;
+  Headless_SetJoyPresent(pad, true);
+  (axis == 'x' ? H.joy[pad - 1].x : H.joy[pad - 1].y) = value;
+}
+
+void Headless_SetJoyButton(int pad, int button, bool down) {
+  if (pad < 1 || pad > 2 || button < 1 || button > 32) return;
+  Headless_SetJoyPresent(pad, true);
+  const std::uint32_t bit = 1u << (button - 1);
+  H.joy[pad - 1].buttons = down ? (H.joy[pad - 1].buttons | bit) : (H.joy[pad - 1].buttons & ~bit);
+}
+
+void Headless_ResetInput() {
+  std::memset(H.key_down, 0, sizeof H.key_down);
+  std::memset(H.key_latch, 0, sizeof H.key_latch);
+  for (int p = 0; p < 2; ++p) {
+    H.joy_present[p] = false;
+    H.joy[p] = {32767, 32767, 0};
+  }
+}
+
+void Headless_SetFrameLimit(long frames) { H.frame_limit = frames; }
+
+void Headless_SetShots(const char* dir, int every) {
+  std::snprintf(H.shot_dir, sizeof H.shot_dir, "%s", dir);
+  H.shot_every = every;
+}
+
+void Headless_SetModeProbe(int (*probe)()) { H.mode_probe = probe; }
+long Headless_Frames() { return H.frames; }
+long Headless_Presented() { return H.presented; }
+std::uint32_t Headless_Clock() { return H.clock; }
+void Headless_AdvanceClock(std::uint32_t ms) { H.clock += ms; }
+const std::uint8_t* Headless_Pixels() { return H.shown; }
+
+void Headless_PrintSummary(int status) {
+  if (H.summary_printed) return;
+  H.summary_printed = true;
+  const int mode = H.mode_probe ? H.mode_probe() : 0;
+  std::printf("\nframes=%ld presented=%ld mode=%d exit=%d\n", H.frames, H.presented, mode,
+              status);
+}

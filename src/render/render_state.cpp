@@ -1,0 +1,17 @@
+#include "render/render_state.h"
+
+#include <GL/gl.h>
+
+#include "platform/platform.h"
+
+void Swap_Buffers() {
+  Plat_SwapBuffers();
+  glFlush();
+}
+
+void Clear_Screen(std::uint8_t r, std::uint8_t g, std::uint8_t b) {
+  glClearColor(r / 255.0f, g / 255.0f, b / 255.0f, 1.0f);
+  glClear(GL_COLOR_BUFFER_BIT);
+}
+
+void Clear_Depth() { glClear(GL_DEPTH_BUFFER_BIT); }

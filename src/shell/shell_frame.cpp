@@ -1,0 +1,101 @@
+// The per-frame callback and the game-mode machine.
+#include "audio/audio.h"
+#include "fight/fight_state.h"
+#include "input/input.h"
+#include "platform/platform.h"
+#include "render/render_state.h"
+#include "scenes/scenes.h"
+#include "settings/settings.h"
+#include "shell/shell.h"
+#include "shell/shell_pacer.h"
+
+ShellState Shell;
+
+namespace {
+
+bool coin_or_start_active() {
+  return Plat_KeyDown(VK_F1_) || Players[0].start_pressed > 0 || Players[1].start_pressed > 0;
+}
+
+// A coin or start press: counts the coin and sends the attract sequence back to the title.
+void coin_and_start() {
+  Shell.StartLatch = 1;
+  TitleTimer = 0;
+  if (++Shell.CoinCount == Settings.coins_per_credit) {
+    ++Match.credits;
+    Shell.CoinCount = 0;
+  }
+  ContinueTimer = 0;
+  const std::int32_t mode = Shell.GameMode;
+  if (mode == MODE_OPENING || mode == MODE_ENDING || mode == MODE_RANKING ||
+      mode == MODE_DEMO_LOAD || Match.demo == 1) {
+    Music_Stop();
+    Shell.GameMode = MODE_TITLE;
+    Shell.TitleEnter = 1;
+  }
+}
+
+}  // namespace
+
+void System_Keys() {
+  if (Plat_KeyDown(VK_F2_) && Shell.GameMode != MODE_OPTIONS) {
+    Shell.GameMode = MODE_OPTIONS;
+    Shell.OptionsEnter = 1;
+  }
+  if (coin_or_start_active()) {
+    if (Shell.StartLatch == 1) return;  // still held: Escape is not looked at
+    coin_and_start();
+  } else {
+    Shell.StartLatch = 0;
+  }
+  if (Plat_KeyDown(VK_ESCAPE_)) Quit_Game();
+}
+
+void Run_Frame() {
+  Match.credits = 100;  // free play
+  System_Keys();
+  if (++frame_count == 30000) frame_count = 0;
+
+  switch (Shell.GameMode) {
+    case MODE_TITLE:
+      fighters[0].streak = 0;
+      fighters[1].streak = 0;
+      break;
+    case MODE_SELECT:
+      Match.demo = 0;
+      break;
+    case MODE_FIGHT:
+      if (Settings.sound == 1 && Cd_IsPlaying() == 0) Music_PlayTrack(MusicTrack);
+      Fight_Frame();
+      break;
+    case MODE_FIGHT_LOAD:
+    case MODE_CONTINUE:
+    case MODE_OPENING:
+    case MODE_ENDING:
+    case MODE_RANKING:
+    case MODE_DEMO_LOAD:
+    case MODE_OPTIONS:
+    default:
+      break;  // scenes not built yet run nothing
+  }
+}
+
+void Fight_Frame() {
+  Fight_Draw();
+}
+
+void Fight_Draw() {
+  if (!Pacer_Due()) return;  // behind schedule: simulated, not drawn
+  if (Shell.WhiteFrames >= 1) {
+    Clear_Screen(255, 255, 255);
+    Clear_Depth();
+    --Shell.WhiteFrames;
+    Swap_Buffers();
+    return;
+  }
+  Clear_Depth();
+  if (Shell.SkipPresent == 1)
+    Shell.SkipPresent = 0;
+  else
+    Swap_Buffers();
+}

@@ -1,0 +1,100 @@
+// Program entry: brings the machine into the state every frame runs in, then hands control
+// to the platform's main loop.
+#include <GL/gl.h>
+
+#include <cstdio>
+
+#include "assets/asset_anim.h"
+#include "audio/audio.h"
+#include "input/input.h"
+#include "platform/platform.h"
+#include "render/render_state.h"
+#include "settings/settings.h"
+#include "shell/shell.h"
+#include "shell/shell_pacer.h"
+
+namespace {
+
+constexpr const char* kWindowTitle = "Valdrune";
+
+// Found by title after the window is created; the joystick and sound set-up may take it.
+std::uintptr_t MainWindow = 0;
+
+// The fixed render state the whole run keeps (start-up steps 9-13).
+void Set_FixedGLState() {
+  glViewport(0, -27, 512, 384);  // replaced by the first reshape
+  glMatrixMode(GL_PROJECTION);
+  glLoadIdentity();
+  glLoadIdentity();
+  glOrtho(0, 512, -384, 0, -5120, 5120);
+  glMatrixMode(GL_MODELVIEW);
+  glLoadIdentity();
+  glClearColor(0, 0, 0, 1);
+  Swap_Buffers();
+
+  glEnable(GL_COLOR_MATERIAL);
+  glEnable(GL_NORMALIZE);
+  glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+  glFrontFace(GL_CCW);
+  glEnable(GL_DEPTH_TEST);
+  glDisable(GL_CULL_FACE);
+  glDepthFunc(GL_LEQUAL);
+  glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_MODULATE);
+  glShadeModel(GL_FLAT);
+  glClearColor(0, 0, 0, 1);
+  glEnable(GL_BLEND);
+  glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+  glEnable(GL_TEXTURE_2D);
+  Swap_Buffers();
+
+  glEnableClientState(GL_VERTEX_ARRAY);
+  glEnableClientState(GL_TEXTURE_COORD_ARRAY);
+}
+
+}  // namespace
+
+int Game_Main() {
+  Set_FrameRate(65);
+
+  Plat_SaveDisplayMode();
+  Plat_SetGameDisplayMode();
+
+  if (!Plat_OpenWindow(kWindowTitle)) {
+    std::printf("Error opening a window.\n");
+    Plat_Exit(0);
+  }
+  MainWindow = Plat_FindWindow(kWindowTitle);
+  Plat_FullScreen();
+  Set_FixedGLState();
+
+  if (!Load_PreloadFA("PRELOAD.FA")) {
+    std::printf("Preload FX3 Error ");
+    std::fflush(stdout);
+    return 1;
+  }
+
+  Cd_Open();
+  Input_Init();
+  Settings_Load();
+
+  Shell.GameMode = MODE_OPENING;
+
+  Plat_RunMainLoop(Run_Frame, Window_Reshape, Window_Display);
+  Quit_Game();
+}
+
+void Quit_Game() {
+  Plat_RestoreDisplayMode();
+  Music_Stop();
+  Plat_Exit(0);
+}
+
+void Window_Reshape(int width, int height) {
+  Clear_Screen(0, 0, 0);
+  Swap_Buffers();
+  Clear_Screen(0, 0, 0);
+  glViewport(0, 0, width, height);
+  glFlush();
+}
+
+void Window_Display() { glFlush(); }
