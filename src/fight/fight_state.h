@@ -61,6 +61,9 @@ struct Fighter {
   std::int32_t damage = 0;
   std::int32_t action = 0;
   std::int32_t frame = 0;
+  std::int32_t model_flag = 0;  // taken from the model file by the model loader
+  std::int32_t first_part = 0;  // first and last body-part index of the model
+  std::int32_t last_part = 0;
 };
 extern Fighter fighters[2];
 

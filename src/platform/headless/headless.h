@@ -43,5 +43,10 @@ void Headless_AdvanceClock(std::uint32_t ms);  // time passing outside the game'
 const std::uint8_t* Headless_Pixels();
 int Headless_WritePng(const char* path);
 
+// When set, Plat_Exit calls this instead of ending the process (it must not return: a test
+// or fuzz harness long-jumps back to its own frame). Pass nullptr to restore the default.
+using Headless_ExitHook = void (*)(int status);
+void Headless_SetExitHook(Headless_ExitHook hook);
+
 // Prints the summary line "frames=N presented=P mode=M exit=S". Every ending prints it once.
 void Headless_PrintSummary(int status);
