@@ -13,6 +13,8 @@
 namespace {
 
 std::uint8_t KeyLatch[256];  // written by the key callbacks, cleared by Plat_KeyDown
+char Keymap[32];             // the X server's key state, read once a frame
+bool KeymapStale = true;     // set at the start of each frame by RealKeys_NewFrame
 
 KeySym keysym_of(int vk) {
   if (vk >= 'A' && vk <= 'Z') return XK_a + (vk - 'A');
@@ -63,6 +65,8 @@ void on_special(int key, int, int) {
 
 }  // namespace
 
+void RealKeys_NewFrame() { KeymapStale = true; }
+
 void RealKeys_RegisterCallbacks() {
   glutKeyboardFunc(on_key);
   glutSpecialFunc(on_special);
@@ -77,7 +81,9 @@ int Plat_KeyDown(int vk) {
   if (display == nullptr || sym == NoSymbol) return latched;
   const KeyCode code = XKeysymToKeycode(display, sym);
   if (code == 0) return latched;
-  char keys[32];
-  XQueryKeymap(display, keys);
-  return ((keys[code >> 3] >> (code & 7)) & 1) || latched;
+  if (KeymapStale) {  // one round trip to the server a frame, however many keys are asked
+    XQueryKeymap(display, Keymap);
+    KeymapStale = false;
+  }
+  return ((Keymap[code >> 3] >> (code & 7)) & 1) || latched;
 }

@@ -42,6 +42,14 @@ Window find_titled(Display* display, Window parent, const char* title, int depth
   return found;
 }
 
+Plat_Callback GameIdle = nullptr;  // the game's per-frame function
+
+// Each idle call is one frame of the game.
+void frame_trampoline() {
+  RealKeys_NewFrame();
+  GameIdle();
+}
+
 }  // namespace
 
 void Plat_SaveDisplayMode() {}
@@ -70,7 +78,8 @@ void Plat_SwapBuffers() { glutSwapBuffers(); }
 void Plat_RunMainLoop(Plat_Callback idle, Plat_ReshapeCallback reshape, Plat_Callback display) {
   glutSetOption(GLUT_ACTION_ON_WINDOW_CLOSE, GLUT_ACTION_GLUTMAINLOOP_RETURNS);
   RealKeys_RegisterCallbacks();
-  glutIdleFunc(idle);
+  GameIdle = idle;
+  glutIdleFunc(frame_trampoline);
   glutReshapeFunc(reshape);
   glutDisplayFunc(display);
   glutMainLoop();
