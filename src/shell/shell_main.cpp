@@ -8,6 +8,7 @@
 #include "audio/audio.h"
 #include "input/input.h"
 #include "platform/platform.h"
+#include "render/render_math.h"
 #include "render/render_state.h"
 #include "settings/settings.h"
 #include "shell/shell.h"
@@ -54,6 +55,7 @@ void Set_FixedGLState() {
 }  // namespace
 
 int Game_Main() {
+  Build_SinCosTables();
   Set_FrameRate(65);
 
   Plat_SaveDisplayMode();
@@ -72,6 +74,7 @@ int Game_Main() {
     std::fflush(stdout);
     return 1;
   }
+  Build_AngleTables();
 
   Cd_Open();
   Input_Init();
