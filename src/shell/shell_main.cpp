@@ -73,7 +73,7 @@ int Game_Main() {
     return 1;
   }
 
-  Cd_Open();
+  Sound_Init();
   Input_Init();
   Settings_Load();
 
