@@ -76,7 +76,7 @@ int Game_Main() {
   }
   Build_AngleTables();
 
-  Cd_Open();
+  Sound_Init();
   Input_Init();
   Settings_Load();
 
