@@ -4,8 +4,13 @@ file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK})
 set(data ${DATA})
 if(NOT EXISTS ${DATA}/PRELOAD.FA)
-  set(data ${WORK})  # no generated data set in this build: an empty shared animation file
-  file(WRITE ${WORK}/PRELOAD.FA "")
+  # No generated data set in this build: the smallest set the game starts with.
+  set(data ${WORK}/data)
+  file(MAKE_DIRECTORY ${data})
+  execute_process(COMMAND ${MINIMAL_DATA} ${data} RESULT_VARIABLE made)
+  if(NOT made STREQUAL "0")
+    message(FATAL_ERROR "cannot write the minimal data set")
+  endif()
 endif()
 file(WRITE ${WORK}/drive.sh "
 cd '${data}'
