@@ -2,6 +2,7 @@
 // posing.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <cstring>
 #include <string>
@@ -53,32 +54,33 @@ void write_bytes(const char* name, const std::vector<std::uint8_t>& bytes, std::
 
 class AnimFiles : public ScratchDir {};
 
+using Row = std::array<std::int16_t, 3>;
+Row unpack(std::int32_t v) {
+  Row e;
+  Unpack_Row(v, e.data());
+  return e;
+}
+
 TEST(AnimDecode, PackedRowHoldsThreeEntriesOfThreeDigits) {
-  std::int16_t e[3];
-  Unpack_Row(499500999, e);
-  EXPECT_EQ(e[0], 499);
-  EXPECT_EQ(e[1], 0);
-  EXPECT_EQ(e[2], -1);
+  EXPECT_EQ(unpack(499500999), (Row{499, 0, -1}));
   EXPECT_EQ(FA_PackRow(499, 0, -1), 499500999);
-  Unpack_Row(FA_PackRow(-500, 499, -500), e);
-  EXPECT_EQ(e[0], -500);
-  EXPECT_EQ(e[1], 499);
-  EXPECT_EQ(e[2], -500);
+  EXPECT_EQ(unpack(FA_PackRow(-500, 499, -500)), (Row{-500, 499, -500}));
+}
+
+// "plain arm-free", or "none" when the name gives no kind.
+std::string kind_of(const char* name) {
+  AnimKind k;
+  if (!Anim_KindOfName(name, &k)) return "none";
+  return std::string(k.plain ? "plain" : "packed") + (k.arm_free ? " arm-free" : " full");
 }
 
 TEST(AnimDecode, KindComesFromTheFirstDotOfTheName) {
-  AnimKind k;
-  ASSERT_TRUE(Anim_KindOfName("ban.fa3", &k));
-  EXPECT_TRUE(k.plain && k.arm_free);
-  ASSERT_TRUE(Anim_KindOfName("CROW.FX3", &k));
-  EXPECT_TRUE(k.plain && !k.arm_free);
-  ASSERT_TRUE(Anim_KindOfName("PRELOAD.FA", &k));
-  EXPECT_TRUE(!k.plain && k.arm_free);
-  ASSERT_TRUE(Anim_KindOfName("a.fx.fa3", &k));  // the first dot decides
-  EXPECT_TRUE(!k.plain && !k.arm_free);
-  ASSERT_TRUE(Anim_KindOfName("odd.", &k));  // nothing after the dot is read past its end
-  EXPECT_TRUE(!k.plain && !k.arm_free);
-  EXPECT_FALSE(Anim_KindOfName("nodot", &k));
+  EXPECT_EQ(kind_of("ban.fa3"), "plain arm-free");
+  EXPECT_EQ(kind_of("CROW.FX3"), "plain full");
+  EXPECT_EQ(kind_of("PRELOAD.FA"), "packed arm-free");
+  EXPECT_EQ(kind_of("a.fx.fa3"), "packed full");  // the first dot decides
+  EXPECT_EQ(kind_of("odd."), "packed full");      // nothing read past the name's end
+  EXPECT_EQ(kind_of("nodot"), "none");
 }
 
 TEST_F(AnimFiles, EveryKindRoundTripsWithTheFilledParts) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "assets/asset_anim.h"
@@ -65,19 +66,15 @@ TEST_F(CharacterLoad, SecondColourRowReadsTheCharactersFiles) {
   EXPECT_TRUE(Load_Character(1));
   EXPECT_EQ(captured(), "");
   if (!model_calls.empty()) {
-    EXPECT_EQ(model_calls[0].file, "honoka2p.3dm");
-    EXPECT_EQ(model_calls[0].alt1, "HONO2PDM.bmp");
-    EXPECT_EQ(model_calls[0].alt2, "HONO2PVC.bmp");
-    EXPECT_EQ(model_calls[0].player, 1);
+    const ModelCall& m = model_calls[0];
+    EXPECT_EQ(m.file + " " + m.alt1 + " " + m.alt2, "honoka2p.3dm HONO2PDM.bmp HONO2PVC.bmp");
+    EXPECT_EQ(m.player, 1);
   }
-  EXPECT_EQ(f.gain_a, 0);
-  EXPECT_EQ(f.gain_b, 0);
-  EXPECT_EQ(f.frame_part[13000], 0);
+  EXPECT_EQ(f.gain_a + f.gain_b + f.frame_part[13000], 0);
   EXPECT_FLOAT_EQ(Anim.Skeleton[21][2], 3.0f);
   EXPECT_EQ(Anim.CharKeys[1][2][19 - 2][0], 123);
   EXPECT_EQ(f.act_first[1], 10);
-  EXPECT_EQ(f.act_first[190], 101);
-  EXPECT_EQ(f.act_last[190], 104);
+  EXPECT_EQ(std::make_pair(f.act_first[190], f.act_last[190]), std::make_pair(101, 104));
   EXPECT_EQ(f.frame_key[104], 10 + 2);  // after the ten shared key frames
   // Character 5's chains: (0, 2, 0, 100, 1) (1, 2, -80, 0, 0) (2, 10, 0, 0, 0) (3, 16, 0, 0, 0).
   EXPECT_EQ(f.attach[0].present, 1);
@@ -105,13 +102,11 @@ TEST(CharacterAttachments, LimitsAreOrderedAndSharedSetsFollow) {
   Setup_Attachments(0, 10);  // its own first chain, then character 3's four
   const Attachment* a = fighters[0].attach;
   EXPECT_EQ(a[0].upper, 99);
-  EXPECT_EQ(a[1].lower, -120);
-  EXPECT_EQ(a[1].upper, 0);
-  EXPECT_EQ(a[4].present, 1);
-  EXPECT_EQ(a[4].anchor_part, 3);
+  EXPECT_EQ(std::make_pair(a[1].lower, a[1].upper), std::make_pair(-120, 0));
+  EXPECT_EQ(std::make_pair(a[4].present, a[4].anchor_part), std::make_pair(1, 3));
   Set_Attachment(1, 2, 4, 120, 15, 1);
-  EXPECT_EQ(fighters[1].attach[2].lower, 15);
-  EXPECT_EQ(fighters[1].attach[2].upper, 120);
+  EXPECT_EQ(std::make_pair(fighters[1].attach[2].lower, fighters[1].attach[2].upper),
+            std::make_pair(15, 120));
   EXPECT_EQ(CharacterTable[19].replaced, 20);
   EXPECT_STREQ(CharacterTable[29].anim, CharacterTable[14].anim);
 }
