@@ -1,0 +1,28 @@
+// Skeleton files, each fitted to a small set of shared key frames.
+#include <cstdint>
+#include <vector>
+
+#include "assets/asset_anim.h"
+#include "fuzz_support.h"
+#include "writers/writer_fa.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  static bool shared_loaded = false;
+  if (!shared_loaded) {
+    fuzz::enter_work_dir();
+    std::vector<FaKeyFrame> keys(3);
+    for (int k = 0; k < 3; ++k)
+      for (auto& part : keys[k].parts) {
+        part.rot[0] = part.rot[4] = part.rot[8] = 499;
+        part.pos[0] = static_cast<std::int16_t>(k * 40);
+      }
+    if (!Write_FA("shared.fa", FaKind::PackedArmFree, 21, keys) || !Load_PreloadFA("shared.fa"))
+      std::abort();
+    shared_loaded = true;
+  }
+  fuzz::write_file("f.bsc", data, size);
+  fuzz::run_reader([] {
+    if (Load_BSC("f.bsc")) Fit_Skeleton(1);
+  });
+  return 0;
+}
