@@ -59,7 +59,15 @@ bool Load_TextureSlot(const char* name, int slot) {
     Textures.Texture_Width = width;
     Textures.Texture_Height = height;
   }
-  if (!ok) std::printf("\n%s error", name);
+  if (!ok) {
+    std::printf("\n%s error", name);
+    // The slot was not handed out: drop the name generated for it, so that repeated
+    // failures do not pile up texture objects.
+    if (slot >= 0 && slot < TEXTURE_SLOTS && Textures.TextureId[slot] != 0) {
+      glDeleteTextures(1, &Textures.TextureId[slot]);
+      Textures.TextureId[slot] = 0;
+    }
+  }
   return ok;
 }
 
