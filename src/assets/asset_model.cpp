@@ -13,9 +13,46 @@ KnightModel Knight[2];
 
 namespace {
 
+// Per model file of the character table, the texture the alternate faces stand in for.
+struct ReplacedTexture {
+  const char* model;
+  int replaced;
+};
+constexpr ReplacedTexture kReplacedTextures[] = {
+    {"ban.3dm", 0},        // row 0
+    {"hana.3dm", 16},      // 1
+    {"kaiden.3dm", 6},     // 2
+    {"eunyu.3dm", 11},     // 3
+    {"bruce.3dm", 0},      // 4
+    {"honoka.3dm", 0},     // 5
+    {"rabalt2p.3dm", 0},   // 6
+    {"reimei.3dm", 1},     // 7
+    {"robot.3dm", 4},      // 8
+    {"crow.3dm", 17},      // 9
+    {"spc1_1p.3dm", 19},   // 10
+    {"spc2_1p.3dm", 6},    // 11
+    {"spc3_1p.3dm", 3},    // 12
+    {"spc4_1p.3dm", 5},    // 13
+    {"banboss.3dm", 0},    // 14 and 29
+    {"ban2p.3dm", 0},      // 15
+    {"hana2p.3dm", 16},    // 16
+    {"kaiden2p.3dm", 6},   // 17
+    {"eunyu2p.3dm", 10},   // 18
+    {"bruce2p.3dm", 20},   // 19
+    {"honoka2p.3dm", 0},   // 20
+    {"rabalt.3dm", 0},     // 21
+    {"reimei2p.3dm", 1},   // 22
+    {"robot2p.3dm", 4},    // 23
+    {"crow2p.3dm", 0},     // 24
+    {"spc1_2p.3dm", 13},   // 25
+    {"spc2_2p.3dm", 0},    // 26
+    {"spc3_2p.3dm", 3},    // 27
+    {"spc4_2p.3dm", 5},    // 28
+};
+
 // The fighters' attachment tables, until the fighter record carries them. Written by the
 // model loader, the character loader's set-up and the match reset; read by the chains.
-ModelAttachment Attachments[2][ATTACHMENTS];
+ModelAttachment Attachments[2][MODEL_ATTACHMENTS];
 
 // Ends the program after a refused or missing model file (the file is already closed).
 [[noreturn]] void model_refused() {
@@ -34,7 +71,7 @@ ModelAttachment Attachments[2][ATTACHMENTS];
 void take_flag_point(int player, const MeshVertex& v) {
   const int i = (v.part - MODEL_FLAG_PART) / 5;
   const int k = v.part % 5;
-  if (i >= ATTACHMENTS) return;  // reported while reading
+  if (i >= MODEL_ATTACHMENTS) return;  // reported while reading
   ModelAttachment& a = Attachments[player][i];
   if (!a.present) {
     a.present = 1;
@@ -44,9 +81,9 @@ void take_flag_point(int player, const MeshVertex& v) {
     a.upper = 0;
   }
   if (a.last_point < k) a.last_point = k;
-  a.point[k][0] = v.x;
-  a.point[k][1] = v.y;
-  a.point[k][2] = v.z;
+  a.points[k][0] = v.x;
+  a.points[k][1] = v.y;
+  a.points[k][2] = v.z;
 }
 
 // Vertices into the record. The flexible part's depth offset is its height in z above the
@@ -100,12 +137,12 @@ void load_alternate(const char* name, std::int32_t& slot, const char* code) {
 // Indices are the game's own constants; one out of range is kept inside the table.
 ModelAttachment& Fighter_Attachment(int player, int attachment) {
   const int p = player == 1 ? 1 : 0;
-  const int i = attachment >= 0 && attachment < ATTACHMENTS ? attachment : 0;
+  const int i = attachment >= 0 && attachment < MODEL_ATTACHMENTS ? attachment : 0;
   return Attachments[p][i];
 }
 
 int Model_ReplacedTexture(const char* file) {
-  for (const CharacterModelRow& row : CharacterModels)
+  for (const ReplacedTexture& row : kReplacedTextures)
     if (strcasecmp(row.model, file) == 0) return row.replaced;
   return -1;
 }

@@ -16,9 +16,6 @@ constexpr int MODEL_FLEX_PART = 21;
 constexpr int MODEL_PARTS = 22;      // part records 0..21 (0 and 1 have none)
 constexpr int MODEL_FLAG_PART = 30;  // vertex parts 30 + 5i + k: point k of attachment i
 constexpr int MODEL_PART_SLOTS = 60; // vertex part numbers name a matrix slot 0..59
-constexpr int MODEL_KEY_FRAMES = 2500;
-constexpr int MODEL_KEY_PARTS = 20;  // parts 2..21 at index part - 2
-constexpr int MODEL_KEY_VALUES = 12; // 9 rotation values, then 3 translation values
 constexpr int EFFECT_MODELS = 3;
 constexpr int EFFECT_MAX_TAG = 4;    // an effect model keeps part records 0..4 only
 
@@ -45,8 +42,8 @@ struct PartShadow {
 static_assert(sizeof(MeshVertex) == 32 && sizeof(MeshFace) == 16 && sizeof(MeshUV) == 8);
 static_assert(sizeof(PartBox) == 96 && sizeof(PartShadow) == 36);
 
-// A fighter's model. Written by Load_3DM (all but key_frame) and by the character animation
-// loader (key_frame); read by posing and the fighter drawing.
+// A fighter's model. Written only by Load_3DM; read by the fighter drawing and the fight's
+// part boxes. (The character's own key frames live with the animation tables.)
 struct KnightModel {
   std::int32_t max_tag;
   std::int32_t max_vtx;
@@ -57,7 +54,6 @@ struct KnightModel {
   MeshUV uv[MODEL_MAX_UV + 1];
   PartBox box[MODEL_PARTS];
   PartShadow shadow[MODEL_PARTS];
-  std::int16_t key_frame[MODEL_KEY_FRAMES][MODEL_KEY_PARTS][MODEL_KEY_VALUES];
   std::int32_t face_slot;  // the slot the alternate faces stand in for
   std::int32_t alt1_slot;  // first and second alternate face textures
   std::int32_t alt2_slot;
@@ -78,68 +74,26 @@ struct EffectModel {
 };
 extern EffectModel Polygon_Sprite[EFFECT_MODELS];
 
-// One attachment chain as the model file lays it out (flag points), with its set-up. The
-// model loader creates attachments it finds points for; the character loader's set-up and
-// reset_match_fighters write `present` and the limits; the attachment chains read them.
-constexpr int ATTACHMENTS = 5;
-constexpr int ATTACH_POINTS = 5;
+// One attachment chain as the model file lays it out (flag points), with its set-up: the
+// loader's share of the fighter's attachment table, kept here until the fighter record
+// carries it. The model loader creates attachments it finds points for; the character
+// loader's set-up and the match reset write `present` and the limits; the chains read them.
+constexpr int MODEL_ATTACHMENTS = 5;
+constexpr int MODEL_ATTACH_POINTS = 5;
 struct ModelAttachment {
   std::int32_t present;
   std::int32_t anchor_part;
   std::int32_t lower, upper;  // swing limits, degrees
   std::int32_t reverse;
   std::int32_t last_point;    // highest point number seen, 0..4; never lowered by a load
-  float point[ATTACH_POINTS][3];
+  float points[MODEL_ATTACH_POINTS][3];
 };
 // The fighter's attachment table (player 0 or 1, attachment 0..4).
 ModelAttachment& Fighter_Attachment(int player, int attachment);
 
-// The fighter models of the character table (rows 0..14 first colours, 15..29 second):
-// model file, first and second alternate face pictures, and the number of the model texture
-// the alternates replace.
-struct CharacterModelRow {
-  const char* model;
-  const char* alt1;
-  const char* alt2;
-  int replaced;
-};
-constexpr int CHARACTER_ROWS = 30;
-inline constexpr CharacterModelRow CharacterModels[CHARACTER_ROWS] = {
-    {"ban.3dm", "BANDM.bmp", "BANVC1.bmp", 0},         // row 0
-    {"hana.3dm", "HANADM.bmp", "HANAVC.bmp", 16},      // row 1
-    {"kaiden.3dm", "KAIDDM.bmp", "KAIDVC1.bmp", 6},    // row 2
-    {"eunyu.3dm", "EUNYDM.bmp", "EUNYVC.bmp", 11},     // row 3
-    {"bruce.3dm", "DANGDM.bmp", "DANGVC.bmp", 0},      // row 4
-    {"honoka.3dm", "HONO1PDM.bmp", "HONO1PVC.bmp", 0}, // row 5
-    {"rabalt2p.3dm", "A8_.bmp", "A8_.bmp", 0},         // row 6
-    {"reimei.3dm", "REI1PDM.bmp", "REI1PVC.bmp", 1},   // row 7
-    {"robot.3dm", "SP3FAC3.bmp", "VASH1PVC.bmp", 4},   // row 8
-    {"crow.3dm", "KNIFDM.bmp", "C6FAC12.bmp", 17},     // row 9
-    {"spc1_1p.3dm", "EUNSPFDM.bmp", "EUNSPFVC.bmp", 19},  // row 10
-    {"spc2_1p.3dm", "GESTDM.bmp", "GESTVC.bmp", 6},    // row 11
-    {"spc3_1p.3dm", "ZXFACDM.bmp", "ZXFACVC.bmp", 3},  // row 12
-    {"spc4_1p.3dm", "OEWFACDM.bmp", "OEWFACVC.bmp", 5},   // row 13
-    {"banboss.3dm", "21BOSSDM.bmp", "21BOSS.bmp", 0},  // row 14
-    {"ban2p.3dm", "BANDM.bmp", "BANVC1.bmp", 0},       // row 15
-    {"hana2p.3dm", "HANADM.bmp", "HANAVC.bmp", 16},    // row 16
-    {"kaiden2p.3dm", "KAIDDM.bmp", "KAIDVC1.bmp", 6},  // row 17
-    {"eunyu2p.3dm", "EUNYDM.bmp", "EUNYVC.bmp", 10},   // row 18
-    {"bruce2p.3dm", "DANGDM.bmp", "DANGVC.bmp", 20},   // row 19
-    {"honoka2p.3dm", "HONO2PDM.bmp", "HONO2PVC.bmp", 0},  // row 20
-    {"rabalt.3dm", "A8_.bmp", "A8_.bmp", 0},           // row 21
-    {"reimei2p.3dm", "REI1PDM.bmp", "REI1PVC.bmp", 1}, // row 22
-    {"robot2p.3dm", "SP3FAC3.bmp", "S2FAC3.bmp", 4},   // row 23
-    {"crow2p.3dm", "KNIFDM.bmp", "C2PFAC12.bmp", 0},   // row 24
-    {"spc1_2p.3dm", "EUNSP2DM.bmp", "SC2FAC2.bmp", 13},   // row 25
-    {"spc2_2p.3dm", "GESTDM.bmp", "GESTVC.bmp", 0},    // row 26
-    {"spc3_2p.3dm", "ZX2FDM.bmp", "ZX2FVC.bmp", 3},    // row 27
-    {"spc4_2p.3dm", "OEWFACDM.bmp", "OEWFACVC.bmp", 5},   // row 28
-    {"banboss.3dm", "21BOSSDM.bmp", "21BOSS.bmp", 0},  // row 29
-};
-
-// The replaced-texture number of the row whose model file is `file` (letter case ignored;
-// rows sharing a model agree), or -1 when no row names it: then no texture of the model is
-// an alternate face and the face slot is the model's first texture slot.
+// The number of the model texture that the alternate faces replace, by the character-table
+// row whose model file is `file` (letter case ignored; rows sharing a model agree), or -1
+// when no row names it: then the face slot is the model's first texture slot.
 int Model_ReplacedTexture(const char* file);
 
 // Reads a fighter's model into Knight[player], with the two alternate face pictures.

@@ -42,7 +42,7 @@ TEST_F(EffectLoad, RefusalsAndFailuresNameTheRecordAndEndWithStatusZero) {
   writers::Bytes bytes;
   ASSERT_TRUE(writers::Encode_3DM(m, bytes));
   patch_i32(bytes, writers::Offset_UVCount(m), 900);
-  ASSERT_TRUE(writers::write_bytes("BIG.3DM", bytes));
+  ASSERT_TRUE(writer_bytes::save("BIG.3DM", bytes));
   writers::Model3DM lost = m;
   lost.textures[1] = "LOST.BMP";
   ASSERT_TRUE(writers::Write_3DM("LOST.3DM", lost));

@@ -134,10 +134,10 @@ TEST_F(ImageTest, TheStagingBufferTakesAFullSizePictureAndRefusesMore) {
   for (const Bad& b : cases) {
     SCOPED_TRACE(b.name);
     writers::Bytes bytes;
-    for (int field : {b.w, b.h, b.c}) writers::put_i16(bytes, field);
+    for (int field : {b.w, b.h, b.c}) writer_bytes::put16(bytes, field);
     bytes.resize(b.header_bytes);
     bytes.resize(bytes.size() + b.pixel_bytes, 0x55);
-    ASSERT_TRUE(writers::write_bytes(b.name, bytes));
+    ASSERT_TRUE(writer_bytes::save(b.name, bytes));
     const auto o = run([&] { EXPECT_FALSE(Load_TextureSlot(b.name, 0)); });
     EXPECT_EQ(o.err, std::string("Loading Error ") + b.reason + "\n");
     EXPECT_EQ(o.out, std::string("\n") + b.name + " error");

@@ -58,7 +58,7 @@ class ModelTest : public LoaderTest {
   }
   static void patch_i32(writers::Bytes& bytes, std::size_t offset, std::int32_t v) {
     writers::Bytes b;
-    writers::put_i32(b, v);
+    writer_bytes::put32(b, v);
     std::copy(b.begin(), b.end(), bytes.begin() + static_cast<long>(offset));
   }
 };

@@ -56,8 +56,8 @@ TEST_F(ModelLoad, AModelRoundTripsIntoItsRecordWithSlotsFacesAndAttachments) {
   EXPECT_EQ(a.lower, 0);
   EXPECT_EQ(a.upper, 0);
   EXPECT_EQ(a.last_point, 2);
-  EXPECT_EQ(a.point[2][0], 3.0f);
-  EXPECT_EQ(a.point[2][2], 5.0f);
+  EXPECT_EQ(a.points[2][0], 3.0f);
+  EXPECT_EQ(a.points[2][2], 5.0f);
 
   // 18 skins in slots 40..57, the face skin (texture 16) in 56, the alternates after them.
   EXPECT_EQ(Textures.Texture_Count, 60);
@@ -141,7 +141,7 @@ TEST_F(ModelLoad, MalformedModelsAreRefusedWithTheirMessageAndNothingIsWritten) 
     Model3DM m = harness::sample_model(2);
     Bytes bytes = encode(m);
     c.spoil(m, bytes);
-    ASSERT_TRUE(writers::write_bytes("bad.3dm", bytes));
+    ASSERT_TRUE(writer_bytes::save("bad.3dm", bytes));
     std::memcpy(Before, Knight, sizeof Knight);
     const Fighter fighter = fighters[1];
     const auto o = run([] { Load_3DM("bad.3dm", 1, "ALT1.BMP", "ALT2.BMP"); });

@@ -45,11 +45,11 @@ TEST_F(CameraPathLoad, AFullPathLoadsAndLongerShortOrMissingFilesLeaveThePathAsI
 
   writers::Bytes bytes;
   ASSERT_TRUE(writers::Encode_CameraPath(path_of(CAMERA_PATH_FRAMES + 1), bytes));
-  ASSERT_TRUE(writers::write_bytes("LONG.CAM", bytes));
+  ASSERT_TRUE(writer_bytes::save("LONG.CAM", bytes));
   ASSERT_TRUE(writers::Encode_CameraPath(path_of(4), bytes));
   bytes.resize(bytes.size() - 1);
-  ASSERT_TRUE(writers::write_bytes("SHORT.CAM", bytes));
-  ASSERT_TRUE(writers::write_bytes("NEG.CAM", {0xff, 0xff}));
+  ASSERT_TRUE(writer_bytes::save("SHORT.CAM", bytes));
+  ASSERT_TRUE(writer_bytes::save("NEG.CAM", {0xff, 0xff}));
   struct Case { const char* file; int path, slot; std::string out; };
   const Case cases[] = {
       {"LONG.CAM", 0, 1, "Camera path LONG.CAM: 1351 frames, a path holds 0 to 1350\n"},

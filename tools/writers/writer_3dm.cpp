@@ -7,44 +7,44 @@ namespace {
 constexpr std::size_t kNameField = 14;
 
 void put_vertices(Bytes& out, const Model3DM& m) {
-  put_i32(out, static_cast<std::int32_t>(m.vertices.size()));
+  writer_bytes::put32(out, static_cast<std::int32_t>(m.vertices.size()));
   for (const Vertex3DM& v : m.vertices) {
-    for (float f : {v.x, v.y, v.z, v.nx, v.ny, v.nz}) put_f32(out, f);
-    put_i32(out, v.part);
+    for (float f : {v.x, v.y, v.z, v.nx, v.ny, v.nz}) writer_bytes::putf32(out, f);
+    writer_bytes::put32(out, v.part);
   }
 }
 
 void put_uvs(Bytes& out, const Model3DM& m) {
-  put_i32(out, static_cast<std::int32_t>(m.uvs.size()));
+  writer_bytes::put32(out, static_cast<std::int32_t>(m.uvs.size()));
   for (const UV3DM& t : m.uvs) {
-    put_f32(out, t.u);
-    put_f32(out, t.v);
+    writer_bytes::putf32(out, t.u);
+    writer_bytes::putf32(out, t.v);
   }
 }
 
 void put_faces(Bytes& out, const Model3DM& m) {
-  put_i32(out, static_cast<std::int32_t>(m.faces.size()));
+  writer_bytes::put32(out, static_cast<std::int32_t>(m.faces.size()));
   for (const Face3DM& f : m.faces) {
-    for (std::int16_t n : f.vtx) put_i16(out, n);
-    for (std::int16_t n : f.uv) put_i16(out, n);
-    put_i32(out, f.texture);
+    for (std::int16_t n : f.vtx) writer_bytes::put16(out, n);
+    for (std::int16_t n : f.uv) writer_bytes::put16(out, n);
+    writer_bytes::put32(out, f.texture);
   }
 }
 
 void put_parts(Bytes& out, const Model3DM& m) {
-  put_i32(out, m.max_tag);
+  writer_bytes::put32(out, m.max_tag);
   const Part3DM empty;
   for (int p = 2; p <= m.max_tag; ++p) {
     const std::size_t i = static_cast<std::size_t>(p - 2);
     const Part3DM& part = i < m.parts.size() ? m.parts[i] : empty;
     for (const auto& corner : part.box)
-      for (float f : corner) put_f32(out, f);
-    for (std::int16_t n : part.shadow) put_i16(out, n);
+      for (float f : corner) writer_bytes::putf32(out, f);
+    for (std::int16_t n : part.shadow) writer_bytes::put16(out, n);
   }
 }
 
 bool put_textures(Bytes& out, const Model3DM& m) {
-  put_i32(out, static_cast<std::int32_t>(m.textures.size()));
+  writer_bytes::put32(out, static_cast<std::int32_t>(m.textures.size()));
   for (const std::string& name : m.textures) {
     if (name.size() >= kNameField) return false;
     out.insert(out.end(), name.begin(), name.end());
@@ -68,7 +68,7 @@ bool Encode_3DM(const Model3DM& model, Bytes& out) {
 
 bool Write_3DM(const char* path, const Model3DM& model) {
   Bytes bytes;
-  return Encode_3DM(model, bytes) && write_bytes(path, bytes);
+  return Encode_3DM(model, bytes) && writer_bytes::save(path, bytes);
 }
 
 std::size_t Offset_UVCount(const Model3DM& m) { return 4 + 28 * m.vertices.size(); }

@@ -9,6 +9,8 @@
 
 namespace writers {
 
+using Bytes = std::vector<std::uint8_t>;  // a file's bytes
+
 struct Vertex3DM {
   float x = 0, y = 0, z = 0;
   float nx = 0, ny = 0, nz = 0;

@@ -5,15 +5,15 @@ namespace writers {
 bool Encode_CameraPath(const CameraPathFile& path, Bytes& out) {
   if (path.points.size() > 32767) return false;
   out.clear();
-  put_i16(out, static_cast<std::int32_t>(path.points.size()));
+  writer_bytes::put16(out, static_cast<std::int32_t>(path.points.size()));
   for (const auto& point : path.points)
-    for (float v : point) put_f32(out, v);
+    for (float v : point) writer_bytes::putf32(out, v);
   return true;
 }
 
 bool Write_CameraPath(const char* path_name, const CameraPathFile& path) {
   Bytes bytes;
-  return Encode_CameraPath(path, bytes) && write_bytes(path_name, bytes);
+  return Encode_CameraPath(path, bytes) && writer_bytes::save(path_name, bytes);
 }
 
 }  // namespace writers

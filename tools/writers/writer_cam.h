@@ -2,11 +2,14 @@
 // world unit (the reader divides by 5).
 #pragma once
 #include <array>
+#include <cstdint>
 #include <vector>
 
 #include "writers/writer_bytes.h"
 
 namespace writers {
+
+using Bytes = std::vector<std::uint8_t>;  // a file's bytes
 
 struct CameraPathFile {
   std::vector<std::array<float, 3>> points;  // file values, 5 x world units

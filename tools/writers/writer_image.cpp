@@ -8,16 +8,16 @@ bool Encode_Image(const ImageFile& image, Bytes& out) {
       image.pixels.size() != static_cast<std::size_t>(image.width) * image.height * bytes_per_pixel)
     return false;
   out.clear();
-  put_i16(out, image.width);
-  put_i16(out, image.height);
-  put_i16(out, image.components);
+  writer_bytes::put16(out, image.width);
+  writer_bytes::put16(out, image.height);
+  writer_bytes::put16(out, image.components);
   out.insert(out.end(), image.pixels.begin(), image.pixels.end());
   return true;
 }
 
 bool Write_Image(const char* path, const ImageFile& image) {
   Bytes bytes;
-  return Encode_Image(image, bytes) && write_bytes(path, bytes);
+  return Encode_Image(image, bytes) && writer_bytes::save(path, bytes);
 }
 
 }  // namespace writers

@@ -1,10 +1,13 @@
 // Image files: i16 width, i16 height, i16 components, then the pixels row after row.
 #pragma once
 #include <cstdint>
+#include <vector>
 
 #include "writers/writer_bytes.h"
 
 namespace writers {
+
+using Bytes = std::vector<std::uint8_t>;  // a file's bytes
 
 struct ImageFile {
   int width = 0;
