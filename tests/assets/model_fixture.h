@@ -10,7 +10,7 @@
 
 namespace harness {
 
-// Five vertices (a body part, two of the flexible part 2.5 apart in z, flag point 37 =
+// Five vertices (a body part, two flexible-part vertices 2.5 apart in z, flag point 37 =
 // attachment 1 point 2, a foot), four coordinates, two faces, parts 2..max_tag, and
 // `textures` copies of "T.BMP" (the last face uses the last one).
 inline writers::Model3DM sample_model(int textures, int max_tag = 21) {
