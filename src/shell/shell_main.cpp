@@ -6,6 +6,7 @@
 
 #include "assets/asset_anim.h"
 #include "audio/audio.h"
+#include "camera/camera_path.h"
 #include "input/input.h"
 #include "platform/platform.h"
 #include "render/render_math.h"
@@ -78,6 +79,8 @@ int Game_Main() {
 
   Sound_Init();
   Input_Init();
+  LoadCameraPath("OPEN_POS.CAM", 1, CAMERA_PATH_EYE);
+  LoadCameraPath("OPEN_POI.CAM", 1, CAMERA_PATH_LOOK_AT);
   Settings_Load();
 
   Shell.GameMode = MODE_OPENING;

@@ -1,0 +1,62 @@
+// Image files into the staging buffer.
+#include <cstdio>
+
+#include "assets/asset_image.h"
+#include "platform/platform.h"
+
+namespace {
+
+// The pixels of the image being loaded; written only by Load_Image, read by the upload.
+std::uint8_t Staging[IMAGE_STAGING_BYTES];
+
+constexpr int kHeaderBytes = 6;
+
+int le16(const std::uint8_t* p) { return static_cast<std::int16_t>(p[0] | (p[1] << 8)); }
+
+// Four components are red, green, blue, alpha; any other value means red, green, blue.
+int bytes_per_pixel(int components) { return components == 4 ? 4 : 3; }
+
+// Reads the pixels of an image whose header is already read; false with the reason printed.
+bool read_pixels(std::FILE* file, const char* name, int width, int height, int components) {
+  if (width < 1 || height < 1) {
+    std::fprintf(stderr, "Loading Error %s: %d x %d has no pixels\n", name, width, height);
+    return false;
+  }
+  if (width > IMAGE_MAX_SIDE || height > IMAGE_MAX_SIDE) {
+    std::fprintf(stderr, "Loading Error %s: %d x %d is larger than %d x %d\n", name, width,
+                 height, IMAGE_MAX_SIDE, IMAGE_MAX_SIDE);
+    return false;
+  }
+  const std::size_t size = static_cast<std::size_t>(width) * height * bytes_per_pixel(components);
+  static_assert(static_cast<std::size_t>(IMAGE_MAX_SIDE) * IMAGE_MAX_SIDE * 4 <= sizeof Staging);
+  if (std::fread(Staging, 1, size, file) != size) {
+    std::fprintf(stderr, "Loading Error %s: shorter than its %d x %d header says\n", name, width,
+                 height);
+    return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+const std::uint8_t* Image_Pixels() { return Staging; }
+
+bool Load_Image(const char* name, int& width, int& height, int& components) {
+  std::FILE* file = Plat_OpenFile(name, "rb");
+  if (file == nullptr) {
+    std::fprintf(stderr, "Loading Error %s\n", name);
+    return false;
+  }
+  std::uint8_t header[kHeaderBytes];
+  if (std::fread(header, 1, kHeaderBytes, file) != kHeaderBytes) {
+    std::fclose(file);
+    std::fprintf(stderr, "Loading Error %s: shorter than its header\n", name);
+    return false;
+  }
+  width = le16(header);
+  height = le16(header + 2);
+  components = le16(header + 4);
+  const bool ok = read_pixels(file, name, width, height, components);
+  std::fclose(file);
+  return ok;
+}

@@ -1,0 +1,177 @@
+// Fighter models: Load_3DM into Knight[player], the flexible part, flag points and faces.
+#include "assets/asset_model.h"
+
+#include <strings.h>
+
+#include <cstdio>
+
+#include "assets/asset_3dm.h"
+#include "fight/fight_state.h"
+#include "platform/platform.h"
+
+KnightModel Knight[2];
+
+namespace {
+
+// Per model file of the character table, the texture the alternate faces stand in for.
+struct ReplacedTexture {
+  const char* model;
+  int replaced;
+};
+constexpr ReplacedTexture kReplacedTextures[] = {
+    {"ban.3dm", 0},        // row 0
+    {"hana.3dm", 16},      // 1
+    {"kaiden.3dm", 6},     // 2
+    {"eunyu.3dm", 11},     // 3
+    {"bruce.3dm", 0},      // 4
+    {"honoka.3dm", 0},     // 5
+    {"rabalt2p.3dm", 0},   // 6
+    {"reimei.3dm", 1},     // 7
+    {"robot.3dm", 4},      // 8
+    {"crow.3dm", 17},      // 9
+    {"spc1_1p.3dm", 19},   // 10
+    {"spc2_1p.3dm", 6},    // 11
+    {"spc3_1p.3dm", 3},    // 12
+    {"spc4_1p.3dm", 5},    // 13
+    {"banboss.3dm", 0},    // 14 and 29
+    {"ban2p.3dm", 0},      // 15
+    {"hana2p.3dm", 16},    // 16
+    {"kaiden2p.3dm", 6},   // 17
+    {"eunyu2p.3dm", 10},   // 18
+    {"bruce2p.3dm", 20},   // 19
+    {"honoka2p.3dm", 0},   // 20
+    {"rabalt.3dm", 0},     // 21
+    {"reimei2p.3dm", 1},   // 22
+    {"robot2p.3dm", 4},    // 23
+    {"crow2p.3dm", 0},     // 24
+    {"spc1_2p.3dm", 13},   // 25
+    {"spc2_2p.3dm", 0},    // 26
+    {"spc3_2p.3dm", 3},    // 27
+    {"spc4_2p.3dm", 5},    // 28
+};
+
+// The fighters' attachment tables, until the fighter record carries them. Written by the
+// model loader, the character loader's set-up and the match reset; read by the chains.
+ModelAttachment Attachments[2][MODEL_ATTACHMENTS];
+
+// Ends the program after a refused or missing model file (the file is already closed).
+[[noreturn]] void model_refused() {
+  Textures.Texture_Repeat = 0;
+  Plat_DebugOut("011");
+  Plat_Exit(1);
+}
+
+[[noreturn]] void texture_failed(const char* code) {
+  Textures.Texture_Repeat = 0;
+  Plat_DebugOut(code);
+  Plat_Exit(0);
+}
+
+// Point k of attachment i: creates the attachment the first time a point names it.
+void take_flag_point(int player, const MeshVertex& v) {
+  const int i = (v.part - MODEL_FLAG_PART) / 5;
+  const int k = v.part % 5;
+  if (i >= MODEL_ATTACHMENTS) return;  // reported while reading
+  ModelAttachment& a = Attachments[player][i];
+  if (!a.present) {
+    a.present = 1;
+    a.anchor_part = 4;
+    a.reverse = 1;
+    a.lower = 0;
+    a.upper = 0;
+  }
+  if (a.last_point < k) a.last_point = k;
+  a.points[k][0] = v.x;
+  a.points[k][1] = v.y;
+  a.points[k][2] = v.z;
+}
+
+// Vertices into the record. The flexible part's depth offset is its height in z above the
+// part's lowest vertex; other vertices keep whatever depth offset the record held.
+void take_vertices(int player, const MeshFile& m) {
+  KnightModel& K = Knight[player];
+  float flex_min_z = 100000.0f;
+  for (int i = 1; i <= m.max_vtx; ++i)
+    if (m.vtx[i].part == MODEL_FLEX_PART && m.vtx[i].z < flex_min_z) flex_min_z = m.vtx[i].z;
+  for (int i = 1; i <= m.max_vtx; ++i) {
+    const MeshVertex& v = m.vtx[i];
+    const float depth = v.part == MODEL_FLEX_PART ? v.z - flex_min_z : K.vtx[i].depth;
+    K.vtx[i] = v;
+    K.vtx[i].depth = depth;
+    if (v.part == MODEL_FLEX_PART) fighters[player].model_flag = 1;
+    if (v.part >= MODEL_FLAG_PART) take_flag_point(player, v);
+  }
+}
+
+void take_model(int player, const MeshFile& m, int base) {
+  KnightModel& K = Knight[player];
+  K.max_vtx = m.max_vtx;
+  K.max_uv = m.max_uv;
+  K.max_face = m.max_face;
+  K.max_tag = m.max_tag;
+  take_vertices(player, m);
+  for (int i = 1; i <= m.max_uv; ++i) K.uv[i] = m.uv[i];
+  for (int i = 1; i <= m.max_face; ++i) {
+    K.face[i] = m.face[i];
+    K.face[i].slot = m.face[i].slot + base;
+  }
+  for (int p = 2; p <= m.max_tag; ++p) {
+    K.box[p] = m.box[p];
+    K.shadow[p] = m.shadow[p];
+  }
+}
+
+// One alternate face picture into the next slot, while slots remain.
+void load_alternate(const char* name, std::int32_t& slot, const char* code) {
+  if (Textures.Texture_Count >= TEXTURE_SLOTS) return;
+  slot = Textures.Texture_Count;
+  if (!Load_TextureSlot(name, Textures.Texture_Count)) {
+    std::printf("Texture Loading Error %s", name);
+    texture_failed(code);
+  }
+  ++Textures.Texture_Count;
+}
+
+}  // namespace
+
+// Indices are the game's own constants; one out of range is kept inside the table.
+ModelAttachment& Fighter_Attachment(int player, int attachment) {
+  const int p = player == 1 ? 1 : 0;
+  const int i = attachment >= 0 && attachment < MODEL_ATTACHMENTS ? attachment : 0;
+  return Attachments[p][i];
+}
+
+int Model_ReplacedTexture(const char* file) {
+  for (const ReplacedTexture& row : kReplacedTextures)
+    if (strcasecmp(row.model, file) == 0) return row.replaced;
+  return -1;
+}
+
+void Load_3DM(const char* file, int player, const char* alt1, const char* alt2) {
+  const int base = Textures.Texture_Count;
+  Textures.Texture_Repeat = 1;
+  std::FILE* f = Plat_OpenFile(file, "rb");
+  if (f == nullptr) {
+    std::printf("open error %s\n", file);
+    model_refused();
+  }
+  if (player < 0 || player > 1) {
+    std::fclose(f);
+    std::printf("Load_3DM ERROR(%s): Knight[%d] does not exist!!!\r", file, player);
+    model_refused();
+  }
+  MeshFile& mesh = Mesh_Scratch();
+  const bool ok = Read_3DM(f, file, {"Load_3DM", "Knight", player, true}, base, mesh);
+  std::fclose(f);
+  if (!ok) model_refused();
+
+  take_model(player, mesh, base);
+  KnightModel& K = Knight[player];
+  if (!Load_MeshTextures(mesh, base, Model_ReplacedTexture(file), &K.face_slot))
+    texture_failed("012");
+  fighters[player].first_part = 2;
+  fighters[player].last_part = K.max_tag;
+  load_alternate(alt1, K.alt1_slot, "013");
+  load_alternate(alt2, K.alt2_slot, "014");
+  Textures.Texture_Repeat = 0;
+}

@@ -1,0 +1,101 @@
+// The texture slot table, the upload rules and the screen sprite table.
+#include <cstdio>
+#include <cstring>
+
+#include "assets/asset_image.h"
+
+TextureTable Textures = {};
+
+namespace {
+
+// Every sprite starts with texture coordinates (0,0) (1,0) (1,1) (0,1) in corner order and
+// all positions at 0.
+constexpr SpriteTable initial_sprites() {
+  SpriteTable table{};
+  for (auto& quad : table.Raster_Quad) {
+    quad[1].s = 1.0f;
+    quad[2].s = 1.0f;
+    quad[2].t = 1.0f;
+    quad[3].t = 1.0f;
+  }
+  return table;
+}
+
+// Model skins tile and are smoothed; every other picture is clamped and pixel-exact.
+void set_wrap_and_filter() {
+  const GLint wrap = Textures.Texture_Repeat == 1 ? GL_REPEAT : GL_CLAMP;
+  const GLint filter = Textures.Texture_Repeat == 1 ? GL_LINEAR : GL_NEAREST;
+  glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, wrap);
+  glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, wrap);
+  glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, filter);
+  glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, filter);
+}
+
+}  // namespace
+
+constinit SpriteTable Sprites = initial_sprites();
+
+bool Make_Texture(const char* name, GLuint& id, int& width, int& height) {
+  glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+  glGenTextures(1, &id);
+  glBindTexture(GL_TEXTURE_2D, id);
+  int w = 0, h = 0, components = 0;
+  if (!Load_Image(name, w, h, components)) return false;
+  if (components == 4)
+    glTexImage2D(GL_TEXTURE_2D, 0, 4, w, h, 0, GL_RGBA, GL_UNSIGNED_BYTE, Image_Pixels());
+  else
+    glTexImage2D(GL_TEXTURE_2D, 0, 3, w, h, 0, GL_RGB, GL_UNSIGNED_BYTE, Image_Pixels());
+  set_wrap_and_filter();
+  width = w;
+  height = h;
+  return true;
+}
+
+bool Load_TextureSlot(const char* name, int slot) {
+  bool ok = false;
+  if (slot >= 0 && slot < TEXTURE_SLOTS) {
+    int width = Textures.Texture_Width, height = Textures.Texture_Height;
+    ok = Make_Texture(name, Textures.TextureId[slot], width, height);
+    Textures.Texture_Width = width;
+    Textures.Texture_Height = height;
+  }
+  if (!ok) {
+    std::printf("\n%s error", name);
+    // The slot was not handed out: drop the name generated for it, so that repeated
+    // failures do not pile up texture objects.
+    if (slot >= 0 && slot < TEXTURE_SLOTS && Textures.TextureId[slot] != 0) {
+      glDeleteTextures(1, &Textures.TextureId[slot]);
+      Textures.TextureId[slot] = 0;
+    }
+  }
+  return ok;
+}
+
+void Reset_Textures() {
+  std::memset(Textures.TextureFile, 0, sizeof Textures.TextureFile);
+  glFlush();
+  const int used = Textures.Texture_Count < TEXTURE_SLOTS ? Textures.Texture_Count : TEXTURE_SLOTS;
+  if (used > 0) glDeleteTextures(used, Textures.TextureId);
+  Textures.Texture_Count = 0;
+}
+
+bool Load_Raster(const char* name, int sprite, float depth) {
+  if (Textures.Texture_Count >= TEXTURE_SLOTS) {
+    std::printf("Load_Raster out ERROR\r");
+    return false;
+  }
+  if (sprite < 0 || sprite >= SPRITE_COUNT) {
+    std::printf("Load_Raster ERROR(%s): sprite %d out of range\r", name, sprite);
+    return false;
+  }
+  if (!Load_TextureSlot(name, Textures.Texture_Count)) {
+    std::printf("Texture Loading Error %s", name);
+    return false;
+  }
+  Sprites.Raster_Slot[sprite] = Textures.Texture_Count;
+  Sprites.Raster_Width[sprite] = Textures.Texture_Width;
+  Sprites.Raster_Height[sprite] = Textures.Texture_Height;
+  for (ScreenVertex& corner : Sprites.Raster_Quad[sprite]) corner.z = 2.0f * depth + 2.0f;
+  ++Textures.Texture_Count;
+  return true;
+}

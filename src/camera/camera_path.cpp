@@ -1,0 +1,69 @@
+// Camera path files.
+#include "camera/camera_path.h"
+
+#include <bit>
+#include <cstdio>
+
+#include "platform/platform.h"
+
+CameraPathRecord CameraPath[CAMERA_PATHS];
+
+namespace {
+
+constexpr int kRecordBytes = 12;
+
+// The file's points before they replace a slot; written only by LoadCameraPath.
+float Incoming[CAMERA_PATH_FRAMES][3];
+
+float lef32(const std::uint8_t* p) {
+  return std::bit_cast<float>(std::uint32_t(p[0]) | (std::uint32_t(p[1]) << 8) |
+                              (std::uint32_t(p[2]) << 16) | (std::uint32_t(p[3]) << 24));
+}
+
+// Reads the count and the records into Incoming. A file longer than a path is refused
+// rather than cut: the two files of a path must stay frame for frame together, and a flight
+// stopped short at 1350 would end the scene that plays it in mid-air.
+int read_points(std::FILE* f, const char* file) {
+  std::uint8_t head[2];
+  if (std::fread(head, 1, 2, f) != 2) {
+    std::printf("Camera path %s: no frame count\n", file);
+    return -1;
+  }
+  const int frames = static_cast<std::int16_t>(head[0] | (head[1] << 8));
+  if (frames < 0 || frames > CAMERA_PATH_FRAMES) {
+    std::printf("Camera path %s: %d frames, a path holds 0 to %d\n", file, frames,
+                CAMERA_PATH_FRAMES);
+    return -1;
+  }
+  for (int k = 0; k < frames; ++k) {
+    std::uint8_t rec[kRecordBytes];
+    if (std::fread(rec, 1, kRecordBytes, f) != kRecordBytes) {
+      std::printf("Camera path %s: ends at frame %d of %d\n", file, k, frames);
+      return -1;
+    }
+    for (int axis = 0; axis < 3; ++axis) Incoming[k][axis] = lef32(rec + 4 * axis) / 5.0f;
+  }
+  return frames;
+}
+
+}  // namespace
+
+int LoadCameraPath(const char* file, int path, int slot) {
+  if (path < 0 || path >= CAMERA_PATHS || slot < 0 || slot > 1) {
+    std::printf("Camera path %s: no path %d slot %d\n", file, path, slot);
+    return 0;
+  }
+  std::FILE* f = Plat_OpenFile(file, "rb");
+  if (f == nullptr) return 0;
+  const int frames = read_points(f, file);
+  std::fclose(f);
+  if (frames < 0) return 0;
+  CameraPathRecord& P = CameraPath[path];
+  for (int k = 0; k < frames; ++k) {
+    P.x[k][slot] = Incoming[k][0];
+    P.height[k][slot] = Incoming[k][1];
+    P.z[k][slot] = Incoming[k][2];
+  }
+  P.frame_count = frames;
+  return 1;
+}
