@@ -67,7 +67,7 @@ bool read_vertices(const Source& src, MeshFile& out) {
                   src.name, src.rules.record, src.rules.index, i, v.part);
       return false;
     }
-    if (v.part >= MODEL_FLAG_PART && (v.part - MODEL_FLAG_PART) / 5 >= MODEL_ATTACHMENTS)
+    if (v.part >= MODEL_FLAG_PART && (v.part - MODEL_FLAG_PART) / 5 >= ATTACHMENTS)
       std::printf("\r\r%s file flag_index_number over(%d)\r\r", src.name,
                   (v.part - MODEL_FLAG_PART) / 5);
   }

@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "assets/asset_3dm.h"
+#include "assets/asset_character.h"
 #include "fight/fight_state.h"
 #include "platform/platform.h"
 
@@ -13,46 +14,7 @@ KnightModel Knight[2];
 
 namespace {
 
-// Per model file of the character table, the texture the alternate faces stand in for.
-struct ReplacedTexture {
-  const char* model;
-  int replaced;
-};
-constexpr ReplacedTexture kReplacedTextures[] = {
-    {"ban.3dm", 0},        // row 0
-    {"hana.3dm", 16},      // 1
-    {"kaiden.3dm", 6},     // 2
-    {"eunyu.3dm", 11},     // 3
-    {"bruce.3dm", 0},      // 4
-    {"honoka.3dm", 0},     // 5
-    {"rabalt2p.3dm", 0},   // 6
-    {"reimei.3dm", 1},     // 7
-    {"robot.3dm", 4},      // 8
-    {"crow.3dm", 17},      // 9
-    {"spc1_1p.3dm", 19},   // 10
-    {"spc2_1p.3dm", 6},    // 11
-    {"spc3_1p.3dm", 3},    // 12
-    {"spc4_1p.3dm", 5},    // 13
-    {"banboss.3dm", 0},    // 14 and 29
-    {"ban2p.3dm", 0},      // 15
-    {"hana2p.3dm", 16},    // 16
-    {"kaiden2p.3dm", 6},   // 17
-    {"eunyu2p.3dm", 10},   // 18
-    {"bruce2p.3dm", 20},   // 19
-    {"honoka2p.3dm", 0},   // 20
-    {"rabalt.3dm", 0},     // 21
-    {"reimei2p.3dm", 1},   // 22
-    {"robot2p.3dm", 4},    // 23
-    {"crow2p.3dm", 0},     // 24
-    {"spc1_2p.3dm", 13},   // 25
-    {"spc2_2p.3dm", 0},    // 26
-    {"spc3_2p.3dm", 3},    // 27
-    {"spc4_2p.3dm", 5},    // 28
-};
 
-// The fighters' attachment tables, until the fighter record carries them. Written by the
-// model loader, the character loader's set-up and the match reset; read by the chains.
-ModelAttachment Attachments[2][MODEL_ATTACHMENTS];
 
 // Ends the program after a refused or missing model file (the file is already closed).
 [[noreturn]] void model_refused() {
@@ -71,8 +33,8 @@ ModelAttachment Attachments[2][MODEL_ATTACHMENTS];
 void take_flag_point(int player, const MeshVertex& v) {
   const int i = (v.part - MODEL_FLAG_PART) / 5;
   const int k = v.part % 5;
-  if (i >= MODEL_ATTACHMENTS) return;  // reported while reading
-  ModelAttachment& a = Attachments[player][i];
+  if (i >= ATTACHMENTS) return;  // reported while reading
+  Attachment& a = fighters[player].attach[i];
   if (!a.present) {
     a.present = 1;
     a.anchor_part = 4;
@@ -135,14 +97,14 @@ void load_alternate(const char* name, std::int32_t& slot, const char* code) {
 }  // namespace
 
 // Indices are the game's own constants; one out of range is kept inside the table.
-ModelAttachment& Fighter_Attachment(int player, int attachment) {
+Attachment& Fighter_Attachment(int player, int attachment) {
   const int p = player == 1 ? 1 : 0;
-  const int i = attachment >= 0 && attachment < MODEL_ATTACHMENTS ? attachment : 0;
-  return Attachments[p][i];
+  const int i = attachment >= 0 && attachment < ATTACHMENTS ? attachment : 0;
+  return fighters[p].attach[i];
 }
 
 int Model_ReplacedTexture(const char* file) {
-  for (const ReplacedTexture& row : kReplacedTextures)
+  for (const CharacterRow& row : CharacterTable)
     if (strcasecmp(row.model, file) == 0) return row.replaced;
   return -1;
 }

@@ -8,6 +8,8 @@
 #pragma once
 #include <cstdint>
 
+#include "fight/fight_state.h"
+
 constexpr int MODEL_MAX_VTX = 899;   // vertices and texture coordinates a record holds
 constexpr int MODEL_MAX_UV = 899;
 constexpr int MODEL_MAX_FACE = 999;
@@ -75,24 +77,11 @@ struct EffectModel {
 };
 extern EffectModel Polygon_Sprite[EFFECT_MODELS];
 
-// One attachment chain as the model file lays it out (flag points), with its set-up: the
-// loader's share of the fighter's attachment table, kept here until the fighter record
-// carries it. The model loader creates attachments it finds points for; the character
-// loader's set-up and the match reset write `present` and the limits; the chains read them.
-constexpr int MODEL_ATTACHMENTS = 5;
-constexpr int MODEL_ATTACH_POINTS = 5;
-struct ModelAttachment {
-  std::int32_t present;
-  std::int32_t anchor_part;
-  std::int32_t lower, upper;  // swing limits, degrees
-  std::int32_t reverse;
-  std::int32_t last_point;    // highest point number seen, 0..4; never lowered by a load
-  float points[MODEL_ATTACH_POINTS][3];
-};
-// The fighter's attachment table (player 0 or 1, attachment 0..4).
-ModelAttachment& Fighter_Attachment(int player, int attachment);
+// The fighter's attachment table (player 0 or 1, attachment 0..4). The model loader creates
+// the attachments it finds flag points for; the character loader's set-up writes the rest.
+Attachment& Fighter_Attachment(int player, int attachment);
 
-// The number of the model texture that the alternate faces replace, by the character-table
+// The number of the model texture that the alternate faces replace, from the character-table
 // row whose model file is `file` (letter case ignored; rows sharing a model agree), or -1
 // when no row names it: then the face slot is the model's first texture slot.
 int Model_ReplacedTexture(const char* file);

@@ -39,7 +39,7 @@ TEST_F(ModelLoad, AModelRoundTripsIntoItsRecordWithSlotsFacesAndAttachments) {
   const Fighter& f = fighters[0];
   EXPECT_EQ(std::tuple(f.model_flag, f.first_part, f.last_part), std::tuple(1, 2, 21));
 
-  const ModelAttachment& a = Fighter_Attachment(0, 1);  // point 2 of attachment 1
+  const Attachment& a = Fighter_Attachment(0, 1);  // point 2 of attachment 1
   EXPECT_EQ(std::tuple(a.present, a.anchor_part, a.reverse, a.lower, a.upper, a.last_point),
             std::tuple(1, 4, 1, 0, 0, 2));
   EXPECT_EQ(std::tuple(a.points[2][0], a.points[2][2]), std::tuple(3.0f, 5.0f));
