@@ -63,54 +63,38 @@ class ChainTest : public ::testing::Test {
   }
 };
 
-TEST(ChainRateLimit, ClimbAndFallBoundaries) {
-  // A normal chain climbs only on a jump of more than 10, and then by exactly 10.
-  EXPECT_EQ(Chain_RateLimit(30, 20, 0), 20);
-  EXPECT_EQ(Chain_RateLimit(31, 20, 0), 30);
-  EXPECT_EQ(Chain_RateLimit(-10, 20, 0), -10);
-  EXPECT_EQ(Chain_RateLimit(-11, 20, 0), -10);
-  // A reversed chain climbs up to 30 at once and drops 7 only on a fall of more than 7.
-  EXPECT_EQ(Chain_RateLimit(50, 20, 1), 50);
-  EXPECT_EQ(Chain_RateLimit(51, 20, 1), 50);
-  EXPECT_EQ(Chain_RateLimit(13, 20, 1), 20);
-  EXPECT_EQ(Chain_RateLimit(12, 20, 1), 13);
-}
-
-TEST_F(ChainTest, RateLimitsThroughTheAnchorsMotion) {
-  hang(0, 4, -120, 120, 0, 0);
+TEST_F(ChainTest, RateLimitsAgainstThePreviousSwing) {
+  // A normal chain climbs 10 only on a jump of more than 10 and falls at most 30; a reversed
+  // one climbs at most 30 and drops 7 only on a fall of more than 7.
+  const int cases[][4] = {{30, 20, 0, 20}, {31, 20, 0, 30}, {-10, 20, 0, -10}, {-11, 20, 0, -10},
+                          {51, 20, 1, 50}, {50, 20, 1, 50}, {13, 20, 1, 20},   {12, 20, 1, 13}};
+  for (const auto& c : cases) EXPECT_EQ(Chain_RateLimit(c[0], c[1], c[2]), c[3]) << c[0];
+  hang(0, 4, -120, 120, 0, 0);  // the same through the anchor's motion in depth
   EXPECT_EQ(swing_after(20, 0), 0);  // a still fighter: back to 0 within one frame
-  EXPECT_EQ(swing_after(50, 0), 20);
-  EXPECT_EQ(swing_after(20, 25), 20);
   EXPECT_EQ(swing_after(20, 35), 30);
   hang(0, 4, -120, 120, 1, 0);
-  EXPECT_EQ(swing_after(20, 17), 20);
   EXPECT_EQ(swing_after(20, 0), 13);
-  EXPECT_EQ(swing_after(20, 90), 50);
 }
 
 TEST_F(ChainTest, SwingFollowsTheAnchorAndSettlesBack) {
+  // Rising 20 degrees of height a frame for three frames, then still.
+  auto run = [](std::vector<int>* seen) {
+    for (int f = 0; f <= 4; ++f) {
+      frame_at(move_of(20) * static_cast<float>(f < 4 ? f : 3), 0);
+      seen->push_back(chain().swing);
+    }
+  };
   hang(0, 2, -120, 120, 0, 1);
-  frame_at(0, 0);
+  chain().swing = -30;
   std::vector<int> seen;
-  for (int f = 1; f <= 4; ++f) {  // rising fast: 50 degrees of height a frame
-    frame_at(f * move_of(50), 0);
-    seen.push_back(chain().swing);
-  }
-  for (int f = 0; f < 3; ++f) {
-    frame_at(4 * move_of(50), 0);
-    seen.push_back(chain().swing);
-  }
-  EXPECT_EQ(seen, (std::vector<int>{10, 20, 30, 40, 10, 0, 0}));
-  // A reversed chain turns the other way for the same rise, 7 a frame while the rise outruns
-  // it by more than 7, and comes back at once.
+  run(&seen);
+  EXPECT_EQ(seen, (std::vector<int>{-20, -10, 0, 10, 0}));
+  // A reversed chain turns the other way, lags 7 at a time, and comes back at once.
   hang(0, 2, -120, 120, 1, 1);
   chain().swing = 0;
   std::memset(chain().anchor, 0, sizeof chain().anchor);
   seen.clear();
-  for (int f = 0; f <= 4; ++f) {
-    frame_at(f < 4 ? f * move_of(20) : 3 * move_of(20), 0);
-    seen.push_back(chain().swing);
-  }
+  run(&seen);
   EXPECT_EQ(seen, (std::vector<int>{0, -7, -14, -14, 0}));
 }
 
@@ -177,36 +161,31 @@ TEST_F(ChainTest, PointsHangOnTheAnchorAndLowerLinksTrail) {
 TEST_F(ChainTest, NothingOutsideThePresentChainsIsWritten) {
   static Fighter before;
   static FighterDraw draw_before;
-  chain(2).last_point = 4;  // loaded data of an absent chain
-  chain(2).swing = 33;
+  auto same = [](const void* a, const void* b, std::size_t n) { return !std::memcmp(a, b, n); };
+  chain(2).last_point = 4, chain(2).swing = 33;  // loaded data of an absent chain
   fighters[P].frame_offset[0][1] = 1.0f;
-  before = fighters[P];
-  draw_before = Draw;
+  before = fighters[P], draw_before = Draw;
   Update_Attachments(P);
-  EXPECT_EQ(std::memcmp(&before, &fighters[P], sizeof before), 0);
-  EXPECT_EQ(std::memcmp(&draw_before, &Draw, sizeof Draw), 0);
-
+  EXPECT_TRUE(same(&before, &fighters[P], sizeof before));
+  EXPECT_TRUE(same(&draw_before, &Draw, sizeof Draw));
   // A damaged highest point number keeps to the five links and their slots; a one-point chain
   // writes slot 30 + 5i alone.
   hang(4, 2, -120, 120, 0, 9);
   hang(1, 2, -120, 120, 0, 0);
   fighters[P].frame_offset[0][2] = 0.5f;
-  before = fighters[P];
-  draw_before = Draw;
+  before = fighters[P], draw_before = Draw;
   Update_Attachments(P);
   const std::size_t from = offsetof(Fighter, attach), to = from + sizeof before.attach;
   const auto* a = reinterpret_cast<const unsigned char*>(&before);
   const auto* b = reinterpret_cast<const unsigned char*>(&fighters[P]);
-  EXPECT_EQ(std::memcmp(a, b, from), 0);
-  EXPECT_EQ(std::memcmp(a + to, b + to, sizeof before - to), 0);
-  EXPECT_EQ(std::memcmp(&before.attach[2], &chain(2), sizeof(Attachment)), 0);
+  EXPECT_TRUE(same(a, b, from) && same(a + to, b + to, sizeof before - to));
+  EXPECT_TRUE(same(&before.attach[2], &chain(2), sizeof(Attachment)));
   for (int slot = 0; slot < PART_SLOTS; ++slot) {
     const bool written = slot == 35 || (slot >= 50 && slot <= 54);
-    const bool same = std::memcmp(&draw_before.EyeMat[P][slot], &Draw.EyeMat[P][slot],
-                                  sizeof(Mat43)) == 0;
-    EXPECT_EQ(same, !written) << slot;
+    EXPECT_EQ(same(&draw_before.EyeMat[P][slot], &Draw.EyeMat[P][slot], sizeof(Mat43)), !written)
+        << slot;
   }
-  EXPECT_EQ(std::memcmp(draw_before.EyeMat[1], Draw.EyeMat[1], sizeof Draw.EyeMat[1]), 0);
+  EXPECT_TRUE(same(draw_before.EyeMat[1], Draw.EyeMat[1], sizeof Draw.EyeMat[1]));
 }
 
 TEST_F(ChainTest, PartPointCarriesTheVerticalPlacement) {
@@ -214,26 +193,19 @@ TEST_F(ChainTest, PartPointCarriesTheVerticalPlacement) {
   Match.character[P] = 8;  // stands 1.0 higher, crouches 0.6 higher
   f.height = 3.0f;
   float x, y, z;
-  Part_Point(P, 4, 0, 1, 0, &x, &y, &z);
-  EXPECT_FLOAT_EQ(y, 1.0f + 1.0f + 3.0f);
+  auto y_of = [&](int part) { return Part_Point(P, part, 0, 1, 0, &x, &y, &z), y - 1.0f; };
+  EXPECT_FLOAT_EQ(y_of(4), 1.0f + 3.0f);
   f.crouching = 1;
-  Part_Point(P, 4, 0, 1, 0, &x, &y, &z);
-  EXPECT_FLOAT_EQ(y, 1.0f + 0.6f + 3.0f);
+  EXPECT_FLOAT_EQ(y_of(4), 0.6f + 3.0f);
   f.busy = 1, f.reacting = 1;  // held: the height alone
-  Part_Point(P, 4, 0, 1, 0, &x, &y, &z);
-  EXPECT_FLOAT_EQ(y, 1.0f + 3.0f);
+  EXPECT_FLOAT_EQ(y_of(4), 3.0f);
   f.crouching = 0, f.reacting = 0;  // feet to the floor: nothing added
-  Part_Point(P, 4, 0, 1, 0, &x, &y, &z);
-  EXPECT_FLOAT_EQ(y, 1.0f);
+  EXPECT_FLOAT_EQ(y_of(4), 0.0f);
   f.busy = 0, f.action = 30;  // halfway down from standing to crouching
   f.act_first[30] = 100, f.act_last[30] = 104, f.frame = 102;
-  f.frame_key[102] = 0;
-  Part_Point(P, 4, 0, 1, 0, &x, &y, &z);
-  EXPECT_NEAR(y, 1.0f + 0.8f + 3.0f, 1e-5);
-  f.extra_angle[0] = 90;  // part 2 takes the first extra turn about x
-  f.action = 0, f.frame = 0;
-  Part_Point(P, 2, 0, 1, 0, &x, &y, &z);
-  EXPECT_NEAR(y, 1.0f + 3.0f, 1e-5);
+  EXPECT_NEAR(y_of(4), 0.8f + 3.0f, 1e-5);
+  f.extra_angle[0] = 90, f.action = 0;  // part 2 takes the first extra turn about x
+  EXPECT_NEAR(y_of(2), 1.0f + 3.0f - 1.0f, 1e-5);  // the point's own height turned onto z
   EXPECT_NEAR(z, 1.0f, 1e-5);
 }
 
