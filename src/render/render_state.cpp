@@ -15,3 +15,10 @@ void Clear_Screen(std::uint8_t r, std::uint8_t g, std::uint8_t b) {
 }
 
 void Clear_Depth() { glClear(GL_DEPTH_BUFFER_BIT); }
+
+void Blend_Normal() { glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA); }
+void Blend_Glow() { glBlendFunc(GL_SRC_ALPHA, GL_SRC_ALPHA); }
+
+void Set_DrawMode(int code) {
+  if ((code & 1) == 0) Blend_Normal();
+}

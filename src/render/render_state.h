@@ -8,3 +8,10 @@ void Swap_Buffers();
 void Clear_Screen(std::uint8_t r, std::uint8_t g, std::uint8_t b);
 // Clears the depth buffer.
 void Clear_Depth();
+
+// Blend functions: the program's default, and glow (source and destination both scaled by
+// the source alpha).
+void Blend_Normal();
+void Blend_Glow();
+// A drawing pass's mode code: bit 0 clear selects normal blending; set keeps the current one.
+void Set_DrawMode(int code);

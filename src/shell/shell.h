@@ -38,6 +38,11 @@ extern ShellState Shell;
 // shared animation file cannot be read; every other ending goes through Quit_Game.
 int Game_Main();
 
+// The render state the whole run keeps: the start-up viewport, the fixed projection of the
+// 512 x 384 picture space and the GL switches. Called once by start-up (and by tests that
+// draw).
+void Set_FixedGLState();
+
 // The orderly way out: restores the display, stops the music, exits with status 0.
 [[noreturn]] void Quit_Game();
 

@@ -22,7 +22,8 @@ constexpr const char* kWindowTitle = "Valdrune";
 // Found by title after the window is created; the joystick and sound set-up may take it.
 std::uintptr_t MainWindow = 0;
 
-// The fixed render state the whole run keeps (start-up steps 9-13).
+}  // namespace
+
 void Set_FixedGLState() {
   glViewport(0, -27, 512, 384);  // replaced by the first reshape
   glMatrixMode(GL_PROJECTION);
@@ -52,8 +53,6 @@ void Set_FixedGLState() {
   glEnableClientState(GL_VERTEX_ARRAY);
   glEnableClientState(GL_TEXTURE_COORD_ARRAY);
 }
-
-}  // namespace
 
 int Game_Main() {
   Build_SinCosTables();

@@ -9,6 +9,7 @@
 
 #include "platform/headless/headless.h"
 #include "platform/platform.h"
+#include "shell/shell.h"
 
 namespace test {
 
@@ -51,9 +52,15 @@ class TempDirTest : public ::testing::Test {
   std::string old_dir_;
 };
 
-// Makes the off-screen GL context current (once per process).
+// Makes the off-screen GL context current with the game's fixed render state, as after
+// start-up and the first reshape (once per process).
 inline void ensure_gl() {
-  static const int ok = Plat_OpenWindow("test");
+  static const int ok = [] {
+    if (!Plat_OpenWindow("test")) return 0;
+    Set_FixedGLState();
+    Window_Reshape(HEADLESS_WIDTH, HEADLESS_HEIGHT);
+    return 1;
+  }();
   ASSERT_TRUE(ok);
 }
 

@@ -1,0 +1,233 @@
+// Screen sprites: quads of two triangles in the orthographic picture space.
+#include "render/render_sprite.h"
+
+#include <GL/gl.h>
+
+#include <cstdlib>
+
+SpriteDrawState SpriteDraw;
+
+namespace {
+
+enum class Orient { AsStored, Mirrored, Turned };
+
+constexpr float kFrontZ = 511.0f;   // in front of the whole 3D scene
+constexpr float kBehindZ = -100.0f;  // behind anything nearer than 100 units
+constexpr float kCornerS[4] = {0, 1, 1, 0};
+constexpr float kCornerT[4] = {0, 0, 1, 1};
+
+void vertex(const ScreenVertex& v, float z) {
+  glTexCoord2f(v.s, v.t);
+  glVertex3f(v.x, -v.y, z);
+}
+
+void colour3(const ScreenVertex& v) {
+  glColor3ub(static_cast<GLubyte>(v.r), static_cast<GLubyte>(v.g), static_cast<GLubyte>(v.b));
+}
+
+void white() { glColor3ub(255, 255, 255); }
+
+// Corner positions of a w x h picture with its unmirrored top-left at (x, y).
+void place(ScreenVertex* q, int x, int y, int w, int h, Orient orient) {
+  const float l = static_cast<float>(x), t = static_cast<float>(y);
+  const float r = static_cast<float>(x + w), b = static_cast<float>(y + h);
+  const float xs[3][4] = {{l, r, r, l}, {r, l, l, r}, {r, l, l, r}};
+  const float ys[3][4] = {{t, t, b, b}, {t, t, b, b}, {b, b, t, t}};
+  const int o = static_cast<int>(orient);
+  for (int k = 0; k < 4; ++k) {
+    q[k].x = xs[o][k];
+    q[k].y = ys[o][k];
+  }
+}
+
+using Emitter = void (*)(const ScreenVertex&, const ScreenVertex&, const ScreenVertex&);
+
+// Binds the sprite's texture and draws the quad as triangles (2, 3, 0) and (2, 0, 1).
+void draw_quad(int sprite, const ScreenVertex* q, Emitter emit) {
+  glBindTexture(GL_TEXTURE_2D, Textures.TextureId[Sprites.Raster_Slot[sprite]]);
+  glBegin(GL_TRIANGLES);
+  emit(q[2], q[3], q[0]);
+  emit(q[2], q[0], q[1]);
+  glEnd();
+}
+
+bool valid(int sprite) { return sprite >= 0 && sprite < SPRITE_COUNT; }
+
+// The plain calls: the sprite's own quad, current colour, at Layer_Z.
+void own(int sprite, int x, int y, int w, int h, Orient orient) {
+  if (!valid(sprite)) return;
+  ScreenVertex* q = Sprites.Raster_Quad[sprite];
+  place(q, x, y, w, h, orient);
+  draw_quad(sprite, q, Emit_Tri);
+}
+
+void scratch_colour(std::uint16_t r, std::uint16_t g, std::uint16_t b, std::uint16_t a) {
+  for (ScreenVertex& v : SpriteDraw.Scratch_Quad) {
+    v.r = r;
+    v.g = g;
+    v.b = b;
+    v.a = a;
+  }
+}
+
+// The coloured calls: Scratch_Quad with the given colour and emitter.
+void scratch(int sprite, int x, int y, int w, int h, Orient orient, Emitter emit) {
+  if (!valid(sprite)) return;
+  place(SpriteDraw.Scratch_Quad, x, y, w, h, orient);
+  draw_quad(sprite, SpriteDraw.Scratch_Quad, emit);
+}
+
+int width(int sprite) { return valid(sprite) ? Sprites.Raster_Width[sprite] : 0; }
+int height(int sprite) { return valid(sprite) ? Sprites.Raster_Height[sprite] : 0; }
+
+
+}  // namespace
+
+int Layout(int v) { return static_cast<int>(v * 1.6); }
+
+// ---- emitters ----------------------------------------------------------------------------
+void Emit_Tri(const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c) {
+  const float z = SpriteDraw.Layer_Z;
+  vertex(a, z);
+  vertex(b, z);
+  vertex(c, z);
+}
+
+void Emit_TriTint(const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c) {
+  colour3(a);
+  vertex(a, kFrontZ);
+  vertex(b, kFrontZ);
+  vertex(c, kFrontZ);
+  white();
+}
+
+void Emit_TriAlpha(const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c) {
+  glColor4ub(static_cast<GLubyte>(a.r), static_cast<GLubyte>(a.g), static_cast<GLubyte>(a.b),
+             static_cast<GLubyte>(a.a));
+  vertex(a, kFrontZ);
+  vertex(b, kFrontZ);
+  vertex(c, kFrontZ);
+  white();
+}
+
+void Emit_TriShade(const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c) {
+  glColor4ub(0, 0, 0, static_cast<GLubyte>(a.a));
+  vertex(a, kBehindZ);
+  vertex(b, kBehindZ);
+  vertex(c, kBehindZ);
+  white();
+}
+
+void Emit_TriVertexColour(const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c) {
+  colour3(a);
+  vertex(a, kBehindZ);
+  colour3(b);
+  vertex(b, kBehindZ);
+  colour3(c);
+  vertex(c, kBehindZ);
+  white();
+}
+
+void Emit_TriDepth(const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c) {
+  vertex(a, -a.z);
+  vertex(b, -b.z);
+  vertex(c, -c.z);
+}
+
+// ---- plain sprites -----------------------------------------------------------------------
+void Draw_Raster(int s, int x, int y) { own(s, x, y, width(s), height(s), Orient::AsStored); }
+void Draw_RasterMirror(int s, int x, int y) { own(s, x, y, width(s), height(s), Orient::Mirrored); }
+void Draw_RasterTurn(int s, int x, int y) { own(s, x, y, width(s), height(s), Orient::Turned); }
+
+void Draw_RasterL(int s, int x, int y) {
+  own(s, Layout(x), Layout(y), Layout(width(s)), Layout(height(s)), Orient::AsStored);
+}
+void Draw_RasterLMirror(int s, int x, int y) {
+  own(s, Layout(x), Layout(y), Layout(width(s)), Layout(height(s)), Orient::Mirrored);
+}
+void Draw_RasterLStretch(int s, int x, int y, int w, int h) {
+  own(s, Layout(x), Layout(y), Layout(w), Layout(h), Orient::AsStored);
+}
+
+void Draw_RasterStretch(int s, int x, int y, int w, int h) { own(s, x, y, w, h, Orient::AsStored); }
+void Draw_RasterStretchMirror(int s, int x, int y, int w, int h) {
+  own(s, x, y, w, h, Orient::Mirrored);
+}
+void Draw_RasterStretchTurn(int s, int x, int y, int w, int h) {
+  own(s, x, y, w, h, Orient::Turned);
+}
+
+// ---- coloured sprites --------------------------------------------------------------------
+void Draw_RasterFade(int s, int x, int y, std::uint16_t level) {
+  Draw_RasterFadeStretch(s, x, y, width(s), height(s), level);
+}
+void Draw_RasterFadeMirror(int s, int x, int y, std::uint16_t level) {
+  Draw_RasterFadeStretchMirror(s, x, y, width(s), height(s), level);
+}
+void Draw_RasterFadeStretch(int s, int x, int y, int w, int h, std::uint16_t level) {
+  scratch_colour(level, level, level, level);
+  scratch(s, x, y, w, h, Orient::AsStored, Emit_TriAlpha);
+}
+void Draw_RasterFadeStretchMirror(int s, int x, int y, int w, int h, std::uint16_t level) {
+  scratch_colour(level, level, level, level);
+  scratch(s, x, y, w, h, Orient::Mirrored, Emit_TriAlpha);
+}
+
+void Draw_RasterLTint(int s, int x, int y, int w, int h, std::uint16_t level) {
+  for (ScreenVertex& v : SpriteDraw.Scratch_Quad) v.r = v.g = v.b = level;
+  scratch(s, Layout(x), Layout(y), Layout(w), Layout(h), Orient::AsStored, Emit_TriTint);
+}
+void Draw_RasterLFade(int s, int x, int y, int w, int h, std::uint16_t level) {
+  scratch_colour(level, level, level, level);
+  scratch(s, Layout(x), Layout(y), Layout(w), Layout(h), Orient::AsStored, Emit_TriAlpha);
+}
+void Draw_RasterLShade(int s, int x, int y, int w, int h, std::uint16_t level) {
+  for (ScreenVertex& v : SpriteDraw.Scratch_Quad) v.a = level;
+  scratch(s, Layout(x), Layout(y), Layout(w), Layout(h), Orient::AsStored, Emit_TriShade);
+}
+
+void Draw_RasterLGrey(int s, int x, int y, int w, int h, std::uint16_t level) {
+  if (!valid(s)) return;
+  ScreenVertex* q = Sprites.Raster_Quad[s];
+  for (int k = 0; k < 4; ++k) q[k].r = q[k].g = q[k].b = level;
+  place(q, Layout(x), Layout(y), Layout(w), Layout(h), Orient::AsStored);
+  draw_quad(s, q, Emit_TriVertexColour);
+}
+
+void Draw_RasterLCycle(int s, int x, int y, int w, int h) {
+  glShadeModel(GL_SMOOTH);
+  scratch(s, Layout(x), Layout(y), Layout(w), Layout(h), Orient::AsStored, Emit_TriVertexColour);
+  glShadeModel(GL_FLAT);
+  Cycle_Step();
+}
+
+void Cycle_Step() {
+  static constexpr std::int16_t kStep[4][3] = {
+      {-6, -6, 0},   // corner 0
+      {0, -6, -6},   // corner 1
+      {-6, 0, -6},   // corner 2
+      {-3, -3, -3},  // corner 3
+  };
+  for (int k = 0; k < 4; ++k) {
+    std::uint16_t out[3];
+    for (int c = 0; c < 3; ++c) {
+      std::int16_t& v = SpriteDraw.Cycle_Colour[k][c];
+      v = static_cast<std::int16_t>(v + kStep[k][c]);
+      if (v >= 256) v = 255;
+      if (v < -255) v = static_cast<std::int16_t>(v + 511);
+      out[c] = static_cast<std::uint16_t>(std::abs(v));
+    }
+    ScreenVertex& q = SpriteDraw.Scratch_Quad[k];
+    q.r = out[0];
+    q.g = out[1];
+    q.b = out[2];
+  }
+}
+
+void Set_Brightness(std::uint16_t level) {
+  for (int k = 0; k < 4; ++k) {
+    SpriteDraw.Scratch_Quad[k].s = kCornerS[k];
+    SpriteDraw.Scratch_Quad[k].t = kCornerT[k];
+    for (std::int16_t& c : SpriteDraw.Cycle_Colour[k]) c = static_cast<std::int16_t>(level);
+  }
+}
