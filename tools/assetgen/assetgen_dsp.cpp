@@ -18,7 +18,9 @@ constexpr float kDt = 1.0f / kSoundRate;
 std::uint32_t u16(const std::string& s, std::size_t at) {
   return static_cast<unsigned char>(s[at]) | static_cast<unsigned char>(s[at + 1]) << 8;
 }
-std::uint32_t u32(const std::string& s, std::size_t at) { return u16(s, at) | u16(s, at + 2) << 16; }
+std::uint32_t u32(const std::string& s, std::size_t at) {
+  return u16(s, at) | u16(s, at + 2) << 16;
+}
 }  // namespace
 
 float Rng::next() {

@@ -29,14 +29,14 @@ std::string track_name(int track) {
 }
 
 // MIDI to wave, cut to the composed length plus a faded ring-out (the synthesiser renders
-// seconds of silence past the end), then to Ogg Vorbis; the fixed stream serial keeps the
-// file the same on every run.
+// seconds of silence past the end) and brought to full level, then to Ogg Vorbis; the fixed
+// stream serial keeps the file the same on every run.
 Job render_job(const Context& ctx, const TrackStyle& style, const fs::path& midi) {
   const fs::path wave = ctx.work / (track_name(style.track) + ".wav");
   const fs::path cut = ctx.work / (track_name(style.track) + "-cut.wav");
   const fs::path ogg = ctx.out / "music" / (track_name(style.track) + ".ogg");
   char length[64];
-  std::snprintf(length, sizeof length, "%.3f fade t 0 %.3f %.3f",
+  std::snprintf(length, sizeof length, "%.3f fade t 0 %.3f %.3f gain -n -1",
                 Composed_Seconds(style) + kRingOut, Composed_Seconds(style) + kRingOut, kRingOut);
   const std::string cmd =
       "fluidsynth -n -i -q -g 0.45 -r " + std::to_string(kMusicRate) +

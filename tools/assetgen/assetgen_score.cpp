@@ -82,7 +82,8 @@ struct Writer {
         continue;
       }
       if (g.kick[i] == 'x') song.Note(t, kStep, kDrums, 36, 105);
-      if (g.snare[i] == 'x' && energy > 0) song.Note(t, kStep, kDrums, g.snare_key, i % 4 ? 80 : 108);
+      if (g.snare[i] == 'x' && energy > 0)
+        song.Note(t, kStep, kDrums, g.snare_key, i % 4 ? 80 : 108);
       if (g.hat[i] == 'x') song.Note(t, kStep, kDrums, g.hat_key, i % 4 ? 58 : 75);
     }
     if (section_start) song.Note(bar_tick, kBar, kDrums, 49, 110);
@@ -94,14 +95,17 @@ struct Writer {
     const int third = note_of(degree + 2, 0);
     switch (s.bass) {
       case EIGHTHS:
-        for (int i = 0; i < 8; ++i) song.Note(bar_tick + i * 2 * kStep, 2 * kStep - 20, kBass, r, i % 2 ? 85 : 105);
+        for (int i = 0; i < 8; ++i)
+          song.Note(bar_tick + i * 2 * kStep, 2 * kStep - 20, kBass, r, i % 2 ? 85 : 105);
         break;
       case OCTAVES:
-        for (int i = 0; i < 8; ++i) song.Note(bar_tick + i * 2 * kStep, 2 * kStep - 20, kBass, r + (i % 2) * 12, 100);
+        for (int i = 0; i < 8; ++i)
+          song.Note(bar_tick + i * 2 * kStep, 2 * kStep - 20, kBass, r + (i % 2) * 12, 100);
         break;
       case WALK: {
         const int walk[] = {r, third, fifth, note_of(next_degree, 0) - 1};
-        for (int i = 0; i < 4; ++i) song.Note(bar_tick + i * kTicksPerBeat, kTicksPerBeat - 30, kBass, walk[i], 95);
+        for (int i = 0; i < 4; ++i)
+          song.Note(bar_tick + i * kTicksPerBeat, kTicksPerBeat - 30, kBass, walk[i], 95);
         break;
       }
       case PEDAL:
@@ -111,19 +115,22 @@ struct Writer {
       case SYNCO: {
         constexpr int kHits[] = {0, 3, 6, 10, 12};
         const int keys[] = {r, r, fifth, r + 12, r};
-        for (int i = 0; i < 5; ++i) song.Note(bar_tick + kHits[i] * kStep, 2 * kStep, kBass, keys[i], 100);
+        for (int i = 0; i < 5; ++i)
+          song.Note(bar_tick + kHits[i] * kStep, 2 * kStep, kBass, keys[i], 100);
         break;
       }
     }
   }
 
   void chords(std::uint32_t bar_tick, int degree, int velocity, std::uint32_t length = kBar) {
-    for (int k = 0; k < 3; ++k) song.Note(bar_tick, length - 10, kPad, note_of(degree + 2 * k, 24), velocity);
+    for (int k = 0; k < 3; ++k)
+      song.Note(bar_tick, length - 10, kPad, note_of(degree + 2 * k, 24), velocity);
     if (s.arp >= 0) {
       const int tones[] = {note_of(degree, 36), note_of(degree + 2, 36), note_of(degree + 4, 36),
                            note_of(degree + 7, 36)};
       for (int i = 0; i < 16 && length == kBar; ++i)
-        song.Note(bar_tick + i * kStep, kStep, kArp, tones[(i % 8 < 4) ? i % 4 : 3 - i % 4], 55 + (i % 4 == 0) * 15);
+        song.Note(bar_tick + i * kStep, kStep, kArp, tones[(i % 8 < 4) ? i % 4 : 3 - i % 4],
+                  55 + (i % 4 == 0) * 15);
     }
   }
 
@@ -154,7 +161,8 @@ struct Writer {
     for (int bar = 0; bar < 7; ++bar) {
       if (bar == 0 || bar == 2 || bar == 6) motif = Rng{seed};  // the motif comes back
       const int rhythm = bar == 4 || bar == 5 ? (r0 + r1 + bar) % 8 : (bar % 2 ? r1 : r0);
-      d = melody_bar(start + bar * kBar, rhythm, bar == 0 || bar == 6 ? 7 : d, chords8[bar], motif, lift);
+      d = melody_bar(start + bar * kBar, rhythm, bar == 0 || bar == 6 ? 7 : d, chords8[bar], motif,
+                     lift);
     }
     song.Note(start + 7 * kBar, kBar - 30, kLead, note_of(chords8[7] + 7 + lift, 24), 100);
   }
@@ -180,7 +188,7 @@ std::string Compose(const TrackStyle& s) {
   if (s.arp >= 0) w.song.Program(kArp, s.arp);
   w.song.Control(0, kLead, 91, 50);  // reverb send
   w.song.Control(0, kPad, 91, 70);
-  w.song.Control(0, kPad, 7, 80);    // volume
+  w.song.Control(0, kPad, 7, 80);  // volume
   w.song.Control(0, kArp, 7, 70);
   const int bars = bars_of(s);
 
@@ -217,19 +225,29 @@ std::string Compose(const TrackStyle& s) {
       break;
     }
     w.drums(t, in_phrase + (intro || outro ? 4 : 0), section >= 0 && in_phrase == 0,
-            intro && bar < 2 ? 0 : bridge ? 1 : 2);
+            intro && bar < 2 ? 0
+            : bridge         ? 1
+                             : 2);
     w.bass(t, degree, next);
     w.chords(t, degree, bridge ? 80 : 62);
     if (section >= 0 && in_phrase == 0) {
-      const int chords8[8] = {degree, s.chords[1], s.chords[2], s.chords[3],
+      const int chords8[8] = {degree,      s.chords[1], s.chords[2], s.chords[3],
                               s.chords[4], s.chords[5], s.chords[6], s.chords[7]};
       int bridge8[8];
       for (int i = 0; i < 8; ++i) bridge8[i] = s.bridge[i / 2];
       switch (section % 4) {
-        case 0: w.phrase(t, chords8, seed_a, 0); break;
-        case 1: w.phrase(t, chords8, seed_b, 2); break;
-        case 2: w.phrase(t, chords8, seed_a, 0); break;
-        default: w.phrase(t, bridge8, seed_b ^ 0x77u, -2); break;
+        case 0:
+          w.phrase(t, chords8, seed_a, 0);
+          break;
+        case 1:
+          w.phrase(t, chords8, seed_b, 2);
+          break;
+        case 2:
+          w.phrase(t, chords8, seed_a, 0);
+          break;
+        default:
+          w.phrase(t, bridge8, seed_b ^ 0x77u, -2);
+          break;
       }
     }
   }

@@ -271,7 +271,7 @@ Job voice_job(const Context& ctx, int sound, fs::path* shaped) {
                     Shell_Quote(shaped->string());
   if (v.shift != 0) cmd += " pitch " + std::to_string(v.shift);
   if (v.effects[0] != '\0') cmd += " " + std::string(v.effects);
-  cmd += voice_shaping(row.kind);
+  cmd += voice_shaping(row.kind) + " gain -n -1";  // no clipping on the way out
   return Job{cmd, {}, *shaped};
 }
 
