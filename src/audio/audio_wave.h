@@ -4,7 +4,7 @@
 #include <cstdint>
 
 // All sound samples live in one fixed pool, filled at start-up and never freed.
-constexpr std::uint32_t WAVE_POOL_BYTES = 12u * 1024u * 1024u;
+constexpr std::uint32_t WAVE_POOL_BYTES = 8u * 1024u * 1024u;
 constexpr int WAVE_HEADER_BYTES = 44;
 
 // What the header says; only these fields are read.
