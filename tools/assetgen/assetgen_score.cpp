@@ -69,7 +69,6 @@ struct Writer {
     const int step = degree - octave * 7;
     return s.root + octave_base + 12 * octave + kScales[s.scale][step];
   }
-  int pick(int n) { return static_cast<int>((rng.next() + 1.0f) * 0.5f * n) % n; }
 
   void drums(std::uint32_t bar_tick, int bar_in_phrase, bool section_start, int energy) {
     const GrooveRow& g = kGrooves[s.groove];
