@@ -63,6 +63,14 @@ void Body_Clothes(Model& m, const Look& lk, const BodyFrame& bf) {
     Body_Tube(m, P_PELVIS, R_PELVIS, {0, bf.hips + 0.45f, 0.0f}, {0, bf.hips + 0.45f - len, -0.05f}, st, 2, 10,
               false, false);
   }
+  if (lk.gloves == Gloves::Gloves && lk.bulk > 0.8f) {  // leather wristbands
+    for (int s = 0; s < 2; ++s) {
+      int fore = s == 0 ? P_R_FOREARM : P_L_FOREARM;
+      Vec3 a = bf.joint[fore], b = bf.joint[fore + 1];
+      Station st[] = {{0, lk.arm_r * 0.72f, lk.arm_r * 0.78f}, {1, lk.arm_r * 0.7f, lk.arm_r * 0.76f}};
+      Body_Tube(m, fore, R_BELT, Lerp(a, b, 0.72f), Lerp(a, b, 0.95f), st, 2, 8, false, false);
+    }
+  }
   if (lk.top == Top::Armour) {  // plated shoulders
     for (int s = 0; s < 2; ++s) {
       Vec3 sh = bf.joint[s == 0 ? P_R_UPPERARM : P_L_UPPERARM];

@@ -69,8 +69,8 @@ const Pose kStepBackLift = With(kStance, {{8, 4, -6, 6}, {9, 70, 0, 0}, {10, -10
 
 // Jab with the lead (left) hand: hips and shoulders turn it out to full reach.
 const Pose kJabLoad = With(kStance, {{3, 10, 6, 0}, {11, -50, 0, -10}, {12, -110, 20, 0}});
-const Pose kJabOut = With(kStance, {{4, 0, 40, 0},     {3, 12, 26, 0},  {2, -4, -62, 0},
-                                    {11, -92, -14, 4}, {12, -4, 0, 0},  {13, 0, 0, 0},
+const Pose kJabOut = With(kStance, {{4, 0, 40, 0},     {3, 14, 26, 0},  {2, -4, -62, 0},
+                                    {11, -90, -60, 0}, {12, -4, 0, 0},  {13, 0, 0, 0},
                                     {5, -30, 0, 16},   {6, -120, -25, 0},
                                     {14, -36, -8, -4}, {15, 30, 0, 0}, {16, -2, 10, 0}});
 
@@ -80,7 +80,7 @@ const Pose kKickChamber = With(kStance, {{4, -10, 10, 0},   {3, 0, 20, 0},    {2
                                          {14, -16, -8, -4}, {15, 16, 0, 0},   {16, -2, 10, 0},
                                          {11, -40, 0, -30}, {5, -10, 0, 40}});
 const Pose kKickOut = With(kStance, {{4, -30, 0, 10},   {3, -8, 20, 0},   {2, 12, -22, 0},
-                                     {8, -112, 10, 14}, {9, 6, 0, 0},     {10, 40, 0, 0},
+                                     {8, -104, 10, 14}, {9, 6, 0, 0},     {10, 40, 0, 0},
                                      {14, 6, -8, -6},   {15, 10, 0, 0},   {16, -14, 10, 0},
                                      {11, -30, 0, -50}, {12, -90, 0, 0},  {5, 10, 0, 40}, {6, -60, 0, 0}});
 
@@ -149,17 +149,17 @@ const Motion kMotions[] = {
      3},
     {"jab", 180, &kStance,
      {P(&kJabLoad, 3, Ease::Out),
-      P(&kJabOut, 4, Ease::Snap, 0, 0, kCueWhoosh, false, {0, 0, 0.35f}),
+      P(&kJabOut, 4, Ease::Snap, 0, 0, kCueWhoosh, false, {0, 0, 0.55f}),
       P(&kJabOut, 3, Ease::Linear, 13, 1),
-      P(&kJabLoad, 5, Ease::InOut, 0, 0, -1, true, {0, 0, -0.35f}),
+      P(&kJabLoad, 5, Ease::InOut, 0, 0, -1, true, {0, 0, -0.55f}),
       P(&kStance, 5, Ease::InOut, 0, 0, -1, true)},
      5},
     {"high_kick", 210, &kStance,
-     {P(&kKickChamber, 8, Ease::Out, 0, 0, kCueShout, false, {0, 0, 0.8f}),
-      P(&kKickOut, 5, Ease::Snap, 0, 0, kCueHeavy, false, {0, 0, 0.9f}),
+     {P(&kKickChamber, 8, Ease::Out, 0, 0, kCueShout, false, {0, 0, 1.6f}),
+      P(&kKickOut, 5, Ease::Snap, 0, 0, kCueHeavy, false, {0, 0, 1.6f}),
       P(&kKickOut, 4, Ease::Linear, 10, 2),
-      P(&kKickChamber, 8, Ease::InOut, 0, 0, -1, false, {0, 0, -0.8f}),
-      P(&kStance, 9, Ease::InOut, 0, 0, -1, true, {0, 0, -0.9f})},
+      P(&kKickChamber, 8, Ease::InOut, 0, 0, -1, false, {0, 0, -1.6f}),
+      P(&kStance, 9, Ease::InOut, 0, 0, -1, true, {0, 0, -1.6f})},
      5},
     {"crouch_down", 30, &kStance, {P(&kCrouch, 8, Ease::Out)}, 1},
     {"crouch_hold", 32, &kCrouch, {P(&kCrouch, 30, Ease::Linear)}, 1},
