@@ -52,7 +52,7 @@ constexpr Look kRoster[kCharacters] = {
      {Pc::None, Pc::None, Pc::None, Pc::None, Pc::None},
      {0.85f, 0x2A3A5A, Brow::Thick, 1.1f, Beard::Full, Mark::None}, 0xB87C58,
      {{0x58683A, 0xA89870, 0x4A3420, 0x3A2A1A, 0xC0A040},
-      {0x707478, 0xC06020, 0x1A1A1A, 0xC8A868, 0x1A1A1A}}},  // Bruce
+      {0x707478, 0xC06020, 0x1A1A1A, 0x3A2A1A, 0x1A1A1A}}},  // Bruce
     {"Honoka", "HON", true,  // the smallest: twin tails, ankle ribbons, a folding fan
      0.60f, 0.92f, 1.22f, 0.84f, 0.66f, 0.48f, 0.48f, 0.42f, 2.60f, 0.22f, 0.38f, 0.10f,
      H::Bob, T::Dress, S::Short, L::Shorts, F::Shoes, G::None, Pr::Fan, Pr::None, false,
@@ -66,7 +66,7 @@ constexpr Look kRoster[kCharacters] = {
      {Pc::None, Pc::CoatTail, Pc::None, Pc::None, Pc::None},
      {0.9f, 0x6A2A8A, Brow::Arched, 1.0f, Beard::Moustache, Mark::None}, 0xE8C4A8,
      {{0x1C1A24, 0x24222C, 0x8030B0, 0x101010, 0xF0F0F4},
-      {0xE8E8E0, 0x8A8A92, 0x208040, 0xD8C890, 0x30A050}}},  // Rabalt
+      {0xE8E8E0, 0x8A8A92, 0x208040, 0x101010, 0x30A050}}},  // Rabalt
     {"Reimei", "REI", true,  // a kung-fu stylist: two braids, wrap top, loose trousers
      0.80f, 0.92f, 1.24f, 0.92f, 0.72f, 0.54f, 0.54f, 0.45f, 2.80f, 0.25f, 0.42f, 0.35f,
      H::Slick, T::Gi, S::Short, L::Trousers, F::Shoes, G::Wraps, Pr::None, Pr::None, false,
@@ -115,7 +115,7 @@ constexpr Look kRoster[kCharacters] = {
      {Pc::Braid, Pc::Pad, Pc::CoatTail, Pc::Cuff, Pc::Cuff},
      {0.9f, 0x4A6A8A, Brow::Angry, 1.1f, Beard::Full, Mark::None}, 0xE4B494,
      {{0x6A4A2A, 0x4A3222, 0x707070, 0xA04018, 0xC0B090},
-      {0x8A8A88, 0x1A2438, 0xB08040, 0xD0B070, 0x902020}}},  // Oewen
+      {0x8A8A88, 0x1A2438, 0xB08040, 0xA04018, 0x902020}}},  // Oewen
     {"Shadow Ban", "BOS", false,  // the boss: Ban grown larger and darker, wild white mane
      0.95f, 1.02f, 1.34f, 1.14f, 0.94f, 0.68f, 0.72f, 0.50f, 3.00f, 0.36f, 0.50f, 0.95f,
      H::Wild, T::Gi, S::None, L::Trousers, F::Bare, G::Wraps, Pr::None, Pr::None, false,

@@ -40,7 +40,8 @@ bool Load_Row(int row, Loaded& out) {
 void Pose_Of(const Loaded& fl, const std::vector<mot::BakedFrame>& frames, int f, mot::PartMatrix pm[22],
              fig::Vec3& offset) {
   mot::KeyFrame key = frames[f].key;
-  mot::Mot_AsLoaded(key, true);
+  // Characters whose own files carry parts 19 and 20 show their props; the others lose them.
+  mot::Mot_AsLoaded(key, !fig::Fig_CarriesProps(fl.character));
   mot::Mot_Fit(key, fl.skeleton);
   mot::Mot_Unpack(key, pm);
   offset = frames[f].offset;
@@ -61,9 +62,9 @@ void Draw_Cell(preview::Canvas& sheet, int cx, int cy, int w, int h, const Loade
   // Floor line at the soles.
   preview::View v;
   v.yaw = yaw;
-  v.look_y = -4.0f;
-  v.distance = 16.0f;
-  v.focal = 1.45f;
+  v.look_y = -3.9f;
+  v.distance = 17.0f;
+  v.focal = 1.5f;
   preview::Skin skin;
   skin.images = &fl.images;
   preview::Draw_Figure(cell, *fl.model, pm, fl.anchor, off, skin, v);
@@ -100,7 +101,6 @@ int main(int argc, char** argv) {
       int len = mot::Mot_Length(mo);
       for (int k = 0; k < kCols; ++k) {
         int frame = len * k / kCols;
-        preview::Canvas small;
         Draw_Cell(sheet, k * kW, i * kH / 2, kW, kH / 2, fl, mo, frame, 110);
       }
     }
@@ -110,7 +110,6 @@ int main(int argc, char** argv) {
     preview::Canvas_Init(sheet, kW * 2 * 4, kH * 2, 0);
     const float yaws[4] = {180, 90, 0, 270};
     for (int k = 0; k < 4; ++k) {
-      preview::Canvas cell;
       Draw_Cell(sheet, k * kW * 2, 0, kW * 2, kH * 2, fl, *mot::Mot_SharedByAction(0), 0, yaws[k]);
     }
   } else if (std::strcmp(mode, "stats") == 0) {
