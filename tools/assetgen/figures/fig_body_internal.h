@@ -1,6 +1,7 @@
 // Shared between the pieces of the figure builder: the body frame (joints and sizes in model
 // space) and the texture regions. Internal to the figure generator.
 #pragma once
+#include "figures/fig_figure.h"
 #include "figures/fig_math.h"
 #include "figures/fig_mesh.h"
 #include "figures/fig_roster.h"
@@ -34,10 +35,6 @@ struct BodyFrame {
   Vec3 arm_dir[2];  // rest direction of the right (+x) and left arm
   float sole;       // y of the soles
 };
-
-// The face texture's v at height fraction t of the head (0 chin, 1 crown); the painter draws the
-// eyes, brows and mouth where the head mesh puts them.
-float Face_V(float t);
 
 void Body_Frame(const Look& look, float leg_length, BodyFrame& out);
 

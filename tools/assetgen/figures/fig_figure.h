@@ -21,6 +21,10 @@ bool Fig_BuildModel(int row, Model& out, TextureLayout& layout);
 // The reference skeleton the shared motions are authored on (the first character's).
 const Skeleton& Fig_ReferenceSkeleton();
 
+// The face texture's v at height fraction t of the head (0 chin, 1 crown); the painter draws the
+// eyes, brows and mouth where the head mesh puts them.
+float Face_V(float t);
+
 // Vertical placement the game applies to a character standing (its standing offset), and the
 // height at which it pins the foot's centre.
 float Fig_StandingOffset(int character);
