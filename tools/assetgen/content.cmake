@@ -1,0 +1,13 @@
+# Fighter figures and motions for the content generator: a library of plain records that the
+# generator's main hands to the file writers, and a preview tool that renders them to pictures.
+file(GLOB ASSETGEN_CONTENT_SOURCES CONFIGURE_DEPENDS
+     ${CMAKE_SOURCE_DIR}/tools/assetgen/figures/*.cpp
+     ${CMAKE_SOURCE_DIR}/tools/assetgen/motion/*.cpp)
+add_library(assetgen_content STATIC ${ASSETGEN_CONTENT_SOURCES})
+target_include_directories(assetgen_content PUBLIC ${CMAKE_SOURCE_DIR}/tools/assetgen)
+
+file(GLOB ASSETGEN_PREVIEW_SOURCES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tools/assetgen/preview/*.cpp)
+if(ASSETGEN_PREVIEW_SOURCES)
+  add_executable(assetgen_preview ${ASSETGEN_PREVIEW_SOURCES})
+  target_link_libraries(assetgen_preview PRIVATE assetgen_content PNG::PNG)
+endif()

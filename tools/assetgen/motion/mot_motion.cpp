@@ -1,0 +1,106 @@
+// Easing between poses and baking motions to one key frame per game frame.
+#include "motion/mot_motion.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace mot {
+using fig::Vec3;
+
+float Mot_Ease(Ease e, int i, int n) {
+  float t = n > 0 ? std::clamp(static_cast<float>(i) / n, 0.0f, 1.0f) : 1.0f;
+  switch (e) {
+    case Ease::Linear: return t;
+    case Ease::In: return t * t;
+    case Ease::Out: return 1.0f - (1.0f - t) * (1.0f - t);
+    case Ease::InOut: return t * t * (3.0f - 2.0f * t);
+    case Ease::Snap: return 1.0f - (1.0f - t) * (1.0f - t) * (1.0f - t) * (1.0f - t);
+  }
+  return t;
+}
+
+void Mot_Blend(const Pose& a, const Pose& b, float f, Pose& out) {
+  out.root = a.root + (b.root - a.root) * f;
+  for (int p = 0; p < 22; ++p)
+    for (int k = 0; k < 3; ++k) out.ang[p][k] = a.ang[p][k] + (b.ang[p][k] - a.ang[p][k]) * f;
+}
+
+// The lowest point of the body: the soles (heel and toe under each ankle) and, for a body on the
+// floor, the trunk and limbs (each joint less the flesh around it).
+float Mot_SoleDrop(const Joints& j, const PartMatrix m[22]) {
+  float low = 1e9f;
+  for (int foot : {10, 16}) {
+    Vec3 ankle = j.at[foot];
+    float sole = ankle.y - 0.42f;
+    for (Vec3 p : {Vec3{ankle.x, sole, ankle.z - 0.34f}, Vec3{ankle.x, sole, ankle.z + 1.0f}}) {
+      Vec3 q = Apply(m[foot].r, p) + m[foot].t;
+      low = std::min(low, q.y);
+    }
+  }
+  static constexpr struct {
+    int part;
+    float flesh;
+  } kFlesh[] = {{2, 0.55f}, {3, 0.6f}, {8, 0.45f}, {14, 0.45f}, {9, 0.35f}, {15, 0.35f},
+                {5, 0.3f},  {11, 0.3f}, {6, 0.25f}, {12, 0.25f}, {7, 0.2f}, {13, 0.2f}};
+  for (const auto& f : kFlesh) low = std::min(low, Mot_PosedJoint(j, m, f.part).y - f.flesh);
+  // The crown: a head length above the neck along the head's own up axis.
+  Vec3 up = Apply(m[2].r, Vec3{0, 1.3f, 0});
+  low = std::min(low, Mot_PosedJoint(j, m, 2).y + up.y - 0.3f);
+  return low;
+}
+
+namespace {
+
+void Bake_Pose(const Motion& mo, const Joints& j, const Pose& pose, BakedFrame& f, float rest_sole) {
+  PartMatrix m[22];
+  Pose p = pose;
+  if (mo.grounded) {
+    Mot_Solve(j, p, m);
+    p.root.y += rest_sole - Mot_SoleDrop(j, m);
+  }
+  Mot_Solve(j, p, m);
+  Mot_Pack(m, f.key);
+}
+
+}  // namespace
+
+int Mot_Length(const Motion& mo) {
+  int n = 0;
+  for (int i = 0; i < mo.phase_count; ++i) n += std::max(1, mo.phases[i].frames);
+  return n;
+}
+
+void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out) {
+  float rest_sole = j.at[10].y - 0.42f;
+  const Pose* from = mo.start;
+  Vec3 travelled{};
+  for (int i = 0; i < mo.phase_count; ++i) {
+    const Phase& ph = mo.phases[i];
+    int n = std::max(1, ph.frames);
+    std::size_t first = out.size();
+    for (int s = 1; s <= n; ++s) {
+      Pose p;
+      Mot_Blend(*from, *ph.pose, Mot_Ease(ph.ease, s, n), p);
+      BakedFrame bf{};
+      Bake_Pose(mo, j, p, bf, rest_sole);
+      bf.offset = travelled + ph.travel * Mot_Ease(Ease::InOut, s, n);
+      if (ph.link) bf.part = 1;
+      if (ph.strike_part >= 2) {
+        bf.part = static_cast<std::int16_t>(ph.strike_part);
+        bf.hit = static_cast<std::int16_t>(ph.hit);
+      }
+      out.push_back(bf);
+    }
+    // A cue sounds on the phase's first frame; on a striking phase it moves one frame earlier so
+    // that it does not break the run of strike frames.
+    if (ph.cue >= 0) {
+      std::size_t at = first;
+      if (ph.strike_part >= 2 && first > 0 && out[first - 1].part <= 1) at = first - 1;
+      if (out[at].part <= 1) out[at].part = static_cast<std::int16_t>(-1 - ph.cue);
+    }
+    travelled = travelled + ph.travel;
+    from = ph.pose;
+  }
+}
+
+}  // namespace mot
