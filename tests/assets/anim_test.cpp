@@ -46,12 +46,6 @@ void pose_key(int player, int key, float ox = 0, float oy = 0, float oz = 0) {
   f.frame_offset[7][0] = ox, f.frame_offset[7][1] = oy, f.frame_offset[7][2] = oz;
 }
 
-void write_bytes(const char* name, const std::vector<std::uint8_t>& bytes, std::size_t size) {
-  std::FILE* f = std::fopen(name, "wb");
-  std::fwrite(bytes.data(), 1, size, f);
-  std::fclose(f);
-}
-
 class AnimFiles : public ScratchDir {};
 
 using Row = std::array<std::int16_t, 3>;
@@ -208,7 +202,7 @@ TEST_F(AnimFiles, SkeletonRoundTripsAndBadSkeletonsKeepTheJoints) {
   Encode_BSC(joints, &bytes);
   bytes[0] = 20;  // parts 2..20, but only ten records follow
   bytes.resize(2 + 12 * 10);
-  write_bytes("short.bsc", bytes, bytes.size());
+  write_bytes("short.bsc", bytes.data(), bytes.size());
   capture();
   EXPECT_FALSE(Load_BSC("short.bsc"));
   EXPECT_NE(captured().find("short.bsc"), std::string::npos);
@@ -235,9 +229,9 @@ TEST_F(AnimFiles, OversizedFilesAreRefusedAndNeighboursKept) {
   ASSERT_TRUE(Write_FA("huge.fx", FaKind::PackedFull, 16, make_keys(CHARACTER_KEYS + 1, 9)));
   std::vector<std::uint8_t> bytes;
   ASSERT_TRUE(Encode_FA(FaKind::PlainFull, 21, make_keys(2, 1), &bytes));
-  write_bytes("cut.fx3", bytes, bytes.size() - 24);  // the right counts, a record short
+  write_bytes("cut.fx3", bytes.data(), bytes.size() - 24);  // the right counts, a record short
   bytes[2] = 22;                                     // parts up to 22
-  write_bytes("parts.fx3", bytes, bytes.size());
+  write_bytes("parts.fx3", bytes.data(), bytes.size());
   capture();
   EXPECT_FALSE(Load_PreloadFA("huge.fa"));
   EXPECT_NE(captured().find("huge.fa): last key frame 6700"), std::string::npos);

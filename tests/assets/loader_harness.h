@@ -5,11 +5,11 @@
 #include <unistd.h>
 
 #include <csetjmp>
-#include <filesystem>
 #include <string>
 
 #include "platform/headless/headless.h"
 #include "platform/platform.h"
+#include "support/test_support.h"
 
 namespace harness {
 
@@ -45,23 +45,12 @@ Outcome run(F call) {
 }
 
 // Each test runs in a fresh directory of its own, with the GL context current.
-class LoaderTest : public testing::Test {
+class LoaderTest : public test::TempDirTest {
  protected:
   void SetUp() override {
     ASSERT_EQ(Plat_OpenWindow("t"), 1);
-    home_ = std::filesystem::current_path();
-    char templ[] = "/tmp/valdrune-test-XXXXXX";
-    ASSERT_NE(mkdtemp(templ), nullptr);
-    dir_ = templ;
-    std::filesystem::current_path(dir_);
+    TempDirTest::SetUp();
   }
-  void TearDown() override {
-    std::filesystem::current_path(home_);
-    std::filesystem::remove_all(dir_);
-  }
-
- private:
-  std::filesystem::path home_, dir_;
 };
 
 }  // namespace harness

@@ -12,22 +12,18 @@
 #include "audio/audio.h"
 #include "fight/fight_state.h"
 #include "settings/settings.h"
+#include "support/test_support.h"
 #include "writers/writer_wave.h"
 
-class AudioDir : public ::testing::Test {
+class AudioDir : public test::TempDirTest {
  protected:
   void SetUp() override {
-    char pattern[] = "/tmp/valdrune-audio-XXXXXX";
-    ASSERT_NE(mkdtemp(pattern), nullptr);
-    dir_ = pattern;
-    ASSERT_NE(getcwd(old_cwd_, sizeof old_cwd_), nullptr);
-    ASSERT_EQ(chdir(dir_.c_str()), 0);
+    TempDirTest::SetUp();
     Settings.sound = 1;
     Match.demo = 0;
   }
   void TearDown() override {
-    ASSERT_EQ(chdir(old_cwd_), 0);
-    std::system(("rm -rf '" + dir_ + "'").c_str());
+    TempDirTest::TearDown();
     Settings.sound = 1;
     Match.demo = 0;
   }
@@ -47,6 +43,4 @@ class AudioDir : public ::testing::Test {
     }
   }
 
-  std::string dir_;
-  char old_cwd_[1024] = "";
 };

@@ -1,17 +1,7 @@
 # The real game opens its window, runs frames, and quits with status 0 when Escape is pressed
 # (keys read from the X server, as a player's keyboard).
-file(REMOVE_RECURSE ${WORK})
-file(MAKE_DIRECTORY ${WORK})
-set(data ${DATA})
-if(NOT EXISTS ${DATA}/PRELOAD.FA)
-  # No generated data set in this build: the smallest set the game starts with.
-  set(data ${WORK}/data)
-  file(MAKE_DIRECTORY ${data})
-  execute_process(COMMAND ${MINIMAL_DATA} ${data} RESULT_VARIABLE made)
-  if(NOT made STREQUAL "0")
-    message(FATAL_ERROR "cannot write the minimal data set")
-  endif()
-endif()
+include(${SRC}/support/scenario.cmake)
+game_data(data)
 file(WRITE ${WORK}/drive.sh "
 cd '${data}'
 '${GAME}' & pid=$!

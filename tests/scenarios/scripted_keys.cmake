@@ -1,16 +1,7 @@
 # A scripted run: F2 opens the options from the opening; Escape quits.
 include(${SRC}/support/scenario.cmake)
 file(MAKE_DIRECTORY ${WORK}/shots)
-set(data ${DATA})
-if(NOT EXISTS ${DATA}/PRELOAD.FA)
-  # No generated data set in this build: the smallest set the game starts with.
-  set(data ${WORK}/data)
-  file(MAKE_DIRECTORY ${data})
-  execute_process(COMMAND ${MINIMAL_DATA} ${data} RESULT_VARIABLE made)
-  if(NOT made STREQUAL "0")
-    message(FATAL_ERROR "cannot write the minimal data set")
-  endif()
-endif()
+game_data(data)
 file(WRITE ${WORK}/options.txt "3 tap F2\n")
 run_headless(r ${data} --frames 20 --script ${WORK}/options.txt --shots ${WORK}/shots --shot-every 1)
 expect_equal("exit status" "${r_STATUS}" "0")

@@ -34,3 +34,18 @@ function(expect_match what actual regex)
     message(FATAL_ERROR "${what}: [${actual}] does not match [${regex}]")
   endif()
 endfunction()
+
+# game_data(<var>): the generated data set, or, in a build without one, the smallest set the
+# game starts with (written into WORK/data).
+function(game_data var)
+  set(data ${DATA})
+  if(NOT EXISTS ${DATA}/PRELOAD.FA)
+    set(data ${WORK}/data)
+    file(MAKE_DIRECTORY ${data})
+    execute_process(COMMAND ${MINIMAL_DATA} ${data} RESULT_VARIABLE made)
+    if(NOT made STREQUAL "0")
+      message(FATAL_ERROR "cannot write the minimal data set")
+    endif()
+  endif()
+  set(${var} ${data} PARENT_SCOPE)
+endfunction()
