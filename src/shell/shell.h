@@ -16,6 +16,9 @@ enum : std::int32_t {
   MODE_OPTIONS = 10,    // options screen
 };
 
+// How a run begins: at the opening, or (review tools) straight in a match or a demonstration.
+enum : std::int32_t { START_OPENING, START_FIGHT, START_DEMO };
+
 // Mode machine state. GameMode is written by the start-up, the system keys and the scenes
 // that move the game on (each sets the entry flag of the scene it switches to).
 struct ShellState {
@@ -31,6 +34,9 @@ struct ShellState {
   std::int32_t CoinCount = 0;    // coins toward the next credit
   std::int32_t WhiteFrames = 0;  // coming fight frames shown plain white
   std::int32_t SkipPresent = 0;  // 1: the next drawn fight frame is not presented
+  // The run's first mode, set before Game_Main by the headless program's --start.
+  std::int32_t StartEntry = START_OPENING;
+  std::int32_t StartSlot[2] = {0, 9};  // both sides' select slots for START_FIGHT
 };
 extern ShellState Shell;
 

@@ -1,4 +1,5 @@
 // The per-frame callback and the game-mode machine.
+#include "assets/asset_anim.h"
 #include "audio/audio.h"
 #include "fight/fight_state.h"
 #include "input/input.h"
@@ -8,6 +9,7 @@
 #include "settings/settings.h"
 #include "shell/shell.h"
 #include "shell/shell_pacer.h"
+#include "shell/shell_prepare.h"
 
 ShellState Shell;
 
@@ -69,11 +71,15 @@ void Run_Frame() {
       Fight_Frame();
       break;
     case MODE_FIGHT_LOAD:
+      Prepare_Match();
+      break;
+    case MODE_DEMO_LOAD:
+      Prepare_Demo();
+      break;
     case MODE_CONTINUE:
     case MODE_OPENING:
     case MODE_ENDING:
     case MODE_RANKING:
-    case MODE_DEMO_LOAD:
     case MODE_OPTIONS:
     default:
       break;  // scenes not built yet run nothing
@@ -85,6 +91,8 @@ void Fight_Frame() {
 }
 
 void Fight_Draw() {
+  Pose_Fighter(0);
+  Pose_Fighter(1);
   if (!Pacer_Due()) return;  // behind schedule: simulated, not drawn
   if (Shell.WhiteFrames >= 1) {
     Clear_Screen(255, 255, 255);
@@ -93,7 +101,9 @@ void Fight_Draw() {
     Swap_Buffers();
     return;
   }
+  // The stage covers the whole screen, so the colour buffer is not cleared.
   Clear_Depth();
+  DrainGauges();
   if (Shell.SkipPresent == 1)
     Shell.SkipPresent = 0;
   else

@@ -14,6 +14,7 @@
 #include "settings/settings.h"
 #include "shell/shell.h"
 #include "shell/shell_pacer.h"
+#include "shell/shell_prepare.h"
 
 namespace {
 
@@ -83,6 +84,7 @@ int Game_Main() {
   Settings_Load();
 
   Shell.GameMode = MODE_OPENING;
+  Enter_StartMode();
 
   Plat_RunMainLoop(Run_Frame, Window_Reshape, Window_Display);
   Quit_Game();

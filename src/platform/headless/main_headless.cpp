@@ -1,6 +1,10 @@
 // valdrune-headless: the game on the headless backend, for tests, screenshots and soak runs.
 //
 //   valdrune-headless --data DIR [--frames N] [--script FILE] [--shots OUTDIR --shot-every K]
+//                     [--start fight:S0:S1 | --start demo]
+//
+// --start enters a two-player match of select slots S0 and S1 (0..29), or a demonstration,
+// instead of the opening.
 #include <unistd.h>
 
 #include <cstdio>
@@ -9,13 +13,14 @@
 
 #include "platform/headless/headless.h"
 #include "shell/shell.h"
+#include "shell/shell_prepare.h"
 
 namespace {
 
 int usage() {
   std::fprintf(stderr,
                "usage: valdrune-headless --data DIR [--frames N] [--script FILE]"
-               " [--shots OUTDIR --shot-every K]\n");
+               " [--shots OUTDIR --shot-every K] [--start fight:S0:S1 | --start demo]\n");
   return 2;
 }
 
@@ -48,6 +53,7 @@ int main(int argc, char** argv) {
     else if (!std::strcmp(argv[i], "--script") && has_value) script = argv[++i];
     else if (!std::strcmp(argv[i], "--shots") && has_value) shots = argv[++i];
     else if (!std::strcmp(argv[i], "--shot-every") && has_value) every = std::atoi(argv[++i]);
+    else if (!std::strcmp(argv[i], "--start") && has_value && Shell_ParseStart(argv[i + 1])) ++i;
     else return usage();
   }
   if (data == nullptr || frames < 0 || (shots != nullptr) != (every > 0)) return usage();
