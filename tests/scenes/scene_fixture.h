@@ -33,11 +33,12 @@ inline void write_picture(const std::string& name) {
   ASSERT_TRUE(writers::Write_Image(name.c_str(), img));
 }
 
-// A plain opaque colour, 8 x 8.
-inline void write_colour(const char* name, std::uint8_t r, std::uint8_t g, std::uint8_t b) {
+// A plain opaque colour, w x h.
+inline void write_colour(const char* name, std::uint8_t r, std::uint8_t g, std::uint8_t b,
+                         int w = 8, int h = 8) {
   writers::Bytes px;
-  for (int i = 0; i < 64; ++i) px.insert(px.end(), {r, g, b});
-  ASSERT_TRUE(writers::Write_Image(name, {8, 8, 3, px}));
+  for (int i = 0; i < w * h; ++i) px.insert(px.end(), {r, g, b});
+  ASSERT_TRUE(writers::Write_Image(name, {w, h, 3, px}));
 }
 
 // The set's entries in load order.
@@ -54,13 +55,13 @@ inline void write_set(PictureSet set, const std::string& skip = "") {
     if (skip != e.file) write_picture(e.file);
 }
 
-// What a match of select slots 0 and 9 reads besides its pictures: the shared animation, both
-// models with their faces, and the three effect models.
+// What a match of select slots 0 and 9 (or 24) reads besides its pictures: the shared
+// animation, the models with their faces, and the three effect models.
 inline void write_match_files() {
   writers::ImageFile skin{2, 2, 3, writers::Bytes(12, 200)};
-  for (const char* name : {"T.BMP", "BANDM.bmp", "BANVC1.bmp", "KNIFDM.bmp", "C6FAC12.bmp"})
+  for (const char* name : {"T.BMP", "BANDM.bmp", "BANVC1.bmp", "KNIFDM.bmp", "C6FAC12.bmp", "C2PFAC12.bmp"})
     ASSERT_TRUE(writers::Write_Image(name, skin));
-  for (const char* name : {"ban.3dm", "crow.3dm", "FAR.3DM", "CARDFIRE.3DM", "AXE.3DM"})
+  for (const char* name : {"ban.3dm", "crow.3dm", "crow2p.3dm", "FAR.3DM", "CARDFIRE.3DM", "AXE.3DM"})
     ASSERT_TRUE(writers::Write_3DM(name, harness::sample_model(1)));
   std::vector<FaKeyFrame> shared(4);
   ASSERT_TRUE(Write_FA("PRELOAD.FA", FaKind::PackedArmFree, 21, shared));
