@@ -18,6 +18,8 @@ struct PrepareState {
   // Two-player match: the side (of the player who joined last) whose stage and music play.
   std::int32_t stage_side = 0;
 };
+static_assert(sizeof PrepareState{}.OpponentOrder == (OPPONENTS + 2) * sizeof(std::int32_t),
+              "eleven entries and the terminator");
 extern PrepareState Prepare;
 
 // MODE_FIGHT_LOAD and MODE_DEMO_LOAD: each runs within one frame and leaves the mode at
