@@ -54,6 +54,8 @@ constexpr FailureCodes kDemoCodes = {"005", {"006", "007"}};
   Plat_Exit(0);
 }
 
+// Up to the fight mode: music off, the fighters chosen, the versus picture, the fight's
+// pictures (the versus picture stays on screen while they load).
 void opening_steps(std::int32_t demo, const FailureCodes& codes) {
   Music_Stop();
   Match.demo = demo;
@@ -67,6 +69,7 @@ void opening_steps(std::int32_t demo, const FailureCodes& codes) {
   Shell.GameMode = MODE_FIGHT;
 }
 
+// Both characters and the three effect models, after the stage.
 void load_fighters(const FailureCodes& codes) {
   reset_match_fighters();
   for (int side = 0; side < 2; ++side)
