@@ -85,15 +85,12 @@ struct EffectState {
 static_assert(sizeof(HitEffect) == 28 && sizeof(ProjectileSlot) == 56 && sizeof(Spark) == 32);
 extern EffectState Effects;
 
-// Frames a hit effect of `kind` lives once its frame reaches 0 (0 for kinds outside 0..19).
-int HitEffect_Lifetime(int kind);
-
 // ---- spawners (the fight core) -------------------------------------------------------------
 // Takes the first free hit-effect slot (none free: nothing happens) with the fighter's yaw as
 // facing. Returns the slot, or -1.
 int Spawn_HitEffect(int fighter, float x, float y, float z, int kind, int start_frame);
-// All 23 sparks burst from (x, y, z), flying away from `side`'s opponent's side; records the
-// burst for the replay.
+// All 23 sparks burst from (x, y, z), most of them toward -x when `side` is the fighter on
+// the left (Match.side_a), else toward +x; records the burst for the replay.
 void Spawn_Sparks(int side, float x, float y, float z);
 // Launches the attacker's current strike (hit_kind, hit_height, hit_power) as a projectile from
 // the striking part's box: its centre x, its lower y, z 0, flying along the attacker's yaw at

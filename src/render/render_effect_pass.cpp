@@ -260,10 +260,6 @@ constexpr float kChargeSize = 15.0f;
 
 }  // namespace
 
-int HitEffect_Lifetime(int kind) {
-  return kind >= 0 && kind < HIT_KINDS ? kHitLooks[kind].life : 0;
-}
-
 void Draw_Effects() {
   Set_DrawMode(41);
   Blend_Glow();
