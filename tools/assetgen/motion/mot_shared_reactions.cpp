@@ -87,8 +87,8 @@ constexpr Motion Launch(const char* name, int action, const Pose* hit, const Pos
 // ---- motions ------------------------------------------------------------------------------
 constexpr Motion kMotions[] = {
     M("crumple", 143, &kStance,
-      {P(&kDoubled, 4, Ease::Snap), P(&kKneesDrop, 12, Ease::In), Impact(Cue(P(&kLyingUp, 10, Ease::In), kCueFall)),
-       P(&kLyingUp, 14, Ease::Linear)}),
+      {P(&kDoubled, 4, Ease::Snap), P(&kKneesDrop, 10, Ease::In), P(&kSitDown, 6, Ease::InOut),
+       Impact(Cue(P(&kLyingUp, 8, Ease::In), kCueFall)), P(&kLyingUp, 12, Ease::Linear)}),
     Knockdown("high_knockdown", 144, &kHurtHigh, &kAirBack, &kLyingUp, 2.5f, 1.0f),
     Recoil("stagger_turn", 145, &kStagger, 8, 14, 0.3f),
     Recoil("doubled_over", 146, &kDoubled, 14, 14, 0.2f),
