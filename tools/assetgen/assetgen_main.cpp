@@ -16,6 +16,7 @@ constexpr gen::Generator kGenerators[] = {
     {"sounds", gen::Generate_Sounds},    // 0..177 wave files
     {"music", gen::Generate_Music},      // music/track02.ogg .. track17.ogg
     {"effect models", gen::Generate_EffectModels},  // FAR.3DM, CARDFIRE.3DM, AXE.3DM
+    {"motions", gen::Generate_Motions},              // PRELOAD.FA, PRELOAD.TBL
 };
 
 bool make_work_dir(gen::fs::path* out) {
