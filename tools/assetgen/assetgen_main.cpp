@@ -14,6 +14,7 @@ namespace {
 constexpr gen::Generator kGenerators[] = {
     {"sounds", gen::Generate_Sounds},  // 0..177 wave files
     {"music", gen::Generate_Music},    // music/track02.ogg .. track17.ogg
+    {"pictures", gen::Generate_Pictures},
 };
 
 bool make_work_dir(gen::fs::path* out) {
