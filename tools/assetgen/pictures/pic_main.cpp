@@ -13,6 +13,7 @@ bool Generate_Pictures(const Context& ctx) {
   out.dir = ctx.out;
   void (*const groups[])(pic::Output&) = {
       pic::Pictures_FightHud, pic::Pictures_FightMessages, pic::Pictures_Effects,
+      pic::Pictures_Stages,
   };
   for (auto group : groups) {
     group(out);
