@@ -13,7 +13,8 @@ bool Generate_Pictures(const Context& ctx) {
   out.dir = ctx.out;
   void (*const groups[])(pic::Output&) = {
       pic::Pictures_FightHud, pic::Pictures_FightMessages, pic::Pictures_Effects,
-      pic::Pictures_Stages,
+      pic::Pictures_Stages, pic::Pictures_Portraits, pic::Pictures_Supers, pic::Pictures_Faces,
+      pic::Pictures_Select, pic::Pictures_Versus,
   };
   for (auto group : groups) {
     group(out);
