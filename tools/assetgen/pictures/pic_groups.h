@@ -13,9 +13,9 @@ void Pictures_Portraits(Output& out);      // pic_portraits.cpp: select, versus,
 void Pictures_Select(Output& out);         // pic_select.cpp: the select screen's frame
 void Pictures_Versus(Output& out);         // pic_versus.cpp
 void Pictures_Title(Output& out);          // pic_title.cpp: title and opening
-void Pictures_Ranking(Output& out);        // pic_ranking.cpp
-void Pictures_Options(Output& out);        // pic_options.cpp
+void Pictures_Ranking(Output& out);        // pic_menus.cpp
+void Pictures_Options(Output& out);        // pic_menus.cpp
 void Pictures_Ending(Output& out);         // pic_ending.cpp
-void Pictures_Faces(Output& out);          // pic_faces.cpp: the fighters' alternate faces
+void Pictures_Faces(Output& out);          // pic_supers.cpp: the fighters' alternate faces
 
 }  // namespace pic
