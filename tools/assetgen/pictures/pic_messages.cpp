@@ -3,6 +3,7 @@
 // calls, the record-time message, and the large digit sets. Each is authored at the size of
 // its place on the 512 x 384 screen; texts split over two sprites are set once on a screen
 // canvas and cut at the sprites' positions, so the halves join.
+#include <cmath>
 #include <string>
 
 #include "pictures/pic_groups.h"
@@ -137,6 +138,19 @@ void Continue_Calls(Output& out) {
   Screen_Text(s, "CONTINUE?", Style_Call(42, 300), 256, 271);
   Save_Rgba(out, "continue.bmp", Screen_Piece(s, 101, 239, 256, 64));
   Save_Rgba(out, "continu2.bmp", Screen_Piece(s, 357, 239, 64, 64));
+  // The count-down's backdrop, added over the scene and brighter as the count runs down; the
+  // two pictures alternate every three frames, so the rays flicker.
+  for (int k = 0; k < 2; ++k) {
+    Canvas bk = Make_Canvas(256, 256);
+    for (int y = 0; y < 256; ++y)
+      for (int x = 0; x < 256; ++x) {
+        float a = std::atan2(y - 150.0f, x - 128.0f), d = std::hypot(x - 128.0f, (y - 150.0f) * 1.3f) / 180;
+        float rays = 0.5f + 0.5f * std::cos(a * 16 + k * 0.2f);
+        float v = Clamp01(d) * (0.35f + 0.4f * rays * (k ? 1.0f : 0.8f));
+        bk.at(x, y) = {v, v * 0.18f, v * 0.08f, 1};
+      }
+    Save_Rgb(out, k ? "contibk2.bmp" : "contibk1.bmp", bk);
+  }
   Save_Rgba(out, "gameover.bmp", Text_Cell("GAME OVER", Style_Cold(40, 216), 256, 64, 112, 32));
   // CONGRATULATIONS! over (91, 302) 256 wide and (352, 302) 128 wide.
   ScreenCanvas c = Make_Screen();
