@@ -120,15 +120,23 @@ bool Power_Of_Two(int v) { return v > 0 && (v & (v - 1)) == 0; }
 // The whole picture set, generated once for the suite.
 class AssetgenPictures : public ::testing::Test {
  protected:
+  // The build's data set when it holds the pictures; otherwise a fresh set in a scratch directory.
   static void SetUpTestSuite() {
+    if (!Read(std::string(VALDRUNE_DATA_DIR) + "/ma01.bmp").empty()) {
+      dir_ = VALDRUNE_DATA_DIR;
+      ok_ = true;
+      return;
+    }
     char templ[] = "/tmp/valdrune-pictures-XXXXXX";
     ASSERT_NE(mkdtemp(templ), nullptr);
-    dir_ = templ;
+    dir_ = scratch_ = templ;
     gen::Context ctx;
     ctx.out = dir_;
     ok_ = gen::Generate_Pictures(ctx);
   }
-  static void TearDownTestSuite() { std::system(("rm -rf '" + dir_ + "'").c_str()); }
+  static void TearDownTestSuite() {
+    if (!scratch_.empty()) std::system(("rm -rf '" + scratch_ + "'").c_str());
+  }
 
   // Loads every file as a screen sprite from the generated directory.
   static void Expect_Loads(const Names& names) {
@@ -149,10 +157,10 @@ class AssetgenPictures : public ::testing::Test {
     ASSERT_EQ(chdir(cwd), 0);
   }
 
-  static std::string dir_;
+  static std::string dir_, scratch_;
   static bool ok_;
 };
-std::string AssetgenPictures::dir_;
+std::string AssetgenPictures::dir_, AssetgenPictures::scratch_;
 bool AssetgenPictures::ok_ = false;
 
 TEST_F(AssetgenPictures, FightSetLoads) { Expect_Loads(Fight_Set()); }
@@ -160,7 +168,7 @@ TEST_F(AssetgenPictures, SelectAndVersusSetsLoad) { Expect_Loads(Select_Set()); 
 TEST_F(AssetgenPictures, TitleOpeningRankingOptionsAndEndingLoad) { Expect_Loads(Front_End_Sets()); }
 TEST_F(AssetgenPictures, EveryStageSuperBackdropAndAlternateFaceLoads) { Expect_Loads(Stage_Files()); }
 
-// A second run of the text, effect and fighter pictures writes the same bytes.
+// Another run of the text, effect and fighter pictures writes the same bytes.
 TEST_F(AssetgenPictures, GenerationIsDeterministic) {
   ASSERT_TRUE(ok_);
   char templ[] = "/tmp/valdrune-pictures-again-XXXXXX";
