@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -115,6 +117,31 @@ std::string Read(const std::string& path) {
   return out;
 }
 
+// A picture file's size, components and pixels.
+struct Picture {
+  int w = 0, h = 0, c = 0;
+  std::string px;
+  int at(int x, int y, int k) const { return static_cast<unsigned char>(px[(static_cast<std::size_t>(y) * w + x) * c + k]); }
+};
+Picture Load_Picture(const std::string& path) {
+  std::string b = Read(path);
+  Picture p;
+  if (b.size() < 6) return p;
+  p.w = static_cast<unsigned char>(b[0]) | static_cast<unsigned char>(b[1]) << 8;
+  p.h = static_cast<unsigned char>(b[2]) | static_cast<unsigned char>(b[3]) << 8;
+  p.c = b[4] == 4 ? 4 : 3;
+  p.px = b.substr(6);
+  if (p.px.size() != static_cast<std::size_t>(p.w) * p.h * p.c) p.w = p.h = 0;
+  return p;
+}
+// Mean colour difference between column xa of a and column xb of b.
+double Column_Step(const Picture& a, int xa, const Picture& b, int xb) {
+  double sum = 0;
+  for (int y = 0; y < a.h; ++y)
+    for (int k = 0; k < 3; ++k) sum += std::abs(a.at(xa, y, k) - b.at(xb, y, k));
+  return sum / (a.h * 3);
+}
+
 bool Power_Of_Two(int v) { return v > 0 && (v & (v - 1)) == 0; }
 
 // The whole picture set, generated once for the suite.
@@ -167,6 +194,45 @@ TEST_F(AssetgenPictures, FightSetLoads) { Expect_Loads(Fight_Set()); }
 TEST_F(AssetgenPictures, SelectAndVersusSetsLoad) { Expect_Loads(Select_Set()); }
 TEST_F(AssetgenPictures, TitleOpeningRankingOptionsAndEndingLoad) { Expect_Loads(Front_End_Sets()); }
 TEST_F(AssetgenPictures, EveryStageSuperBackdropAndAlternateFaceLoads) { Expect_Loads(Stage_Files()); }
+
+// Floors tile, and the three backdrop panels' scene wraps round: the step across the seam is
+// no larger than across the same place inside the picture (the tile's middle, the panels'
+// own joins).
+TEST_F(AssetgenPictures, FloorsTileAndBackdropsWrap) {
+  ASSERT_TRUE(ok_);
+  for (int s = 1; s <= 12; ++s) {
+    char stem[8];
+    std::snprintf(stem, sizeof stem, "DS%02d", s);
+    Picture floor = Load_Picture(dir_ + "/" + stem + "_MA1.bmp");
+    Picture bg[3];
+    for (int k = 0; k < 3; ++k) bg[k] = Load_Picture(dir_ + "/" + stem + "_BG" + std::to_string(k + 1) + ".bmp");
+    ASSERT_GT(floor.w, 0) << stem;
+    double middle = Column_Step(floor, floor.w / 2 - 1, floor, floor.w / 2);
+    EXPECT_LE(Column_Step(floor, floor.w - 1, floor, 0), middle * 1.5 + 4) << stem << " floor seam";
+    for (const Picture& p : bg) ASSERT_TRUE(p.w == bg[0].w && p.h == bg[0].h && p.w > 0) << stem;
+    int last = bg[0].w - 1;
+    double joins = std::max(Column_Step(bg[0], last, bg[1], 0), Column_Step(bg[1], last, bg[2], 0));
+    EXPECT_LE(Column_Step(bg[2], last, bg[0], 0), joins * 2 + 8) << stem << " backdrop wrap";
+  }
+}
+
+// Letters set whole into their sprite are not cut by its edges: the border stays clear.
+TEST_F(AssetgenPictures, TextSpritesKeepTheirLettersInside) {
+  ASSERT_TRUE(ok_);
+  Names names;
+  List(names, {"fight", "ko", "perfct1", "timeover", "youwin", "youlose", "gameover", "finalrnd", "vs_vs", "slctply",
+               "ranking", "hitcombo", "keychng", "smvdr", "1st", "spfon1", "spfon2", "insrt", "advanc", "gameleve",
+               "special", "mideum"});
+  for (const char* set : {"t", "conti_", "combo_", "x", "vs_", "sl", "sm", "w", "ws"}) Series(names, set, 0, 9);
+  for (const std::string& name : names) {
+    Picture p = Load_Picture(dir_ + "/" + name);
+    ASSERT_EQ(p.c, 4) << name;
+    int worst = 0;
+    for (int x = 0; x < p.w; ++x) worst = std::max({worst, p.at(x, 0, 3), p.at(x, p.h - 1, 3)});
+    for (int y = 0; y < p.h; ++y) worst = std::max({worst, p.at(0, y, 3), p.at(p.w - 1, y, 3)});
+    EXPECT_LT(worst, 40) << name << " has letters on its edge";
+  }
+}
 
 // Another run of the text, effect and fighter pictures writes the same bytes.
 TEST_F(AssetgenPictures, GenerationIsDeterministic) {

@@ -159,8 +159,8 @@ void Fight_Plates(Output& out) {
 void Small_Digits(Output& out) {
   for (int d = 0; d < 10; ++d) {
     std::string t = std::to_string(d);
-    Save_Rgba(out, "cham_no" + t + ".bmp", Text_Cell(t, Style_Tiny(6, Hex(0xFFD040)), 8, 8, 4, 4));
-    Save_Rgba(out, "cr_t" + t + ".bmp", Text_Cell(t, Style_Tiny(6, Hex(0xFFFFFF)), 8, 8, 4, 4));
+    Save_Rgba(out, "cham_no" + t + ".bmp", Text_Cell(t, Style_Tiny(5, Hex(0xFFD040)), 8, 8, 4, 3));
+    Save_Rgba(out, "cr_t" + t + ".bmp", Text_Cell(t, Style_Tiny(5, Hex(0xFFFFFF)), 8, 8, 4, 3));
   }
   Save_Rgba(out, "t_champ.bmp", Text_Cell_At("CHAMPION", Style_Tiny(6, Hex(0xFFD040)), 64, 8, 0, 4, Align::Left));
   Save_Rgba(out, "t_challe.bmp",

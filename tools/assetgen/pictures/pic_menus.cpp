@@ -53,17 +53,17 @@ void Options(Output& out) {
                  {"sound.bmp", "SOUND"},        {"exit.bmp", "EXIT"},          {"g_fps.bmp", "FRAME RATE"},
                  {"punch1.bmp", "PUNCH 1"},     {"punch2.bmp", "PUNCH 2"},     {"kick1.bmp", "KICK 1"},
                  {"kick2.bmp", "KICK 2"}};
-  for (const auto& l : kLabels) Save_Rgba(out, l.file, Text_Cell_At(l.text, label, 128, 16, 1, 8, Align::Left));
+  for (const auto& l : kLabels) Save_Rgba(out, l.file, Text_Cell_At(l.text, label, 128, 16, 2, 8, Align::Left));
   TextStyle title = Style_Gold(11, 250);
   Save_Rgba(out, "mode.bmp", Text_Cell_At("OPTIONS", title, 256, 16, 1, 8, Align::Left));
   TextStyle value = Style_Gold(10, 14);
   for (int d = 0; d < 10; ++d)
     Save_Rgba(out, std::to_string(d) + ".bmp", Text_Cell(std::to_string(d), value, 16, 16, 6, 8));
-  Save_Rgba(out, "off.bmp", Text_Cell_At("OFF", Style_Gold(10, 30), 32, 16, 1, 8, Align::Left));
-  Save_Rgba(out, "on.bmp", Text_Cell_At("ON", Style_Gold(10, 30), 32, 16, 1, 8, Align::Left));
-  Save_Rgba(out, "high.bmp", Text_Cell_At("HIGH", Style_Gold(10, 60), 64, 16, 1, 8, Align::Left));
-  Save_Rgba(out, "mideum.bmp", Text_Cell_At("MEDIUM", Style_Gold(10, 60), 64, 16, 1, 8, Align::Left));
-  Save_Rgba(out, "low.bmp", Text_Cell_At("LOW", Style_Gold(10, 60), 64, 16, 1, 8, Align::Left));
+  Save_Rgba(out, "off.bmp", Text_Cell_At("OFF", Style_Gold(10, 30), 32, 16, 2, 8, Align::Left));
+  Save_Rgba(out, "on.bmp", Text_Cell_At("ON", Style_Gold(10, 30), 32, 16, 2, 8, Align::Left));
+  Save_Rgba(out, "high.bmp", Text_Cell_At("HIGH", Style_Gold(10, 58), 64, 16, 2, 8, Align::Left));
+  Save_Rgba(out, "mideum.bmp", Text_Cell_At("MEDIUM", Style_Gold(10, 58), 64, 16, 2, 8, Align::Left));
+  Save_Rgba(out, "low.bmp", Text_Cell_At("LOW", Style_Gold(10, 58), 64, 16, 2, 8, Align::Left));
   const char* letters = "ABCD";
   for (int q = 0; q < 2; ++q)
     for (int b = 0; b < 4; ++b) {

@@ -20,21 +20,21 @@ void Digit_Set(Output& out, const char* stem, const TextStyle& style, int w, int
 
 void Digit_Sets(Output& out) {
   // Round timer: tens at screen x 225, units at 254.
-  TextStyle timer = Style_Gold(38, 28);
+  TextStyle timer = Style_Gold(38, 26);
   timer.face = Face::SansBold;
   timer.outline = 2;
-  Digit_Set(out, "t", timer, 32, 64, 14, 24);
+  Digit_Set(out, "t", timer, 32, 64, 15, 24);
   // Continue count-down at (238, 302), centred on the screen's middle.
   Digit_Set(out, "conti_", Style_Call(50, 36), 64, 64, 18, 32);
   // Combo digits, stretched up to 36 layout units square.
-  TextStyle combo = Style_Call(50, 52);
+  TextStyle combo = Style_Call(42, 52);
   combo.face = Face::SansBold;
   Digit_Set(out, "combo_", combo, 64, 64, 32, 32);
   // Round numbers after ROUND at (296, 177).
   Digit_Set(out, "st", Style_Call(44, 56), 64, 64, 26, 32);
   // Record time: seconds (32 x 32) and the smaller hundredths, sharing a baseline.
-  Digit_Set(out, "sl", Style_Gold(26, 24), 32, 32, 13, 17);
-  Digit_Set(out, "sm", Style_Gold(17, 16), 32, 32, 9, 13);
+  Digit_Set(out, "sl", Style_Gold(22, 24), 32, 32, 13, 16);
+  Digit_Set(out, "sm", Style_Gold(16, 16), 32, 32, 9, 12);
   Save_Rgba(out, "smcoma.bmp", Text_Cell(".", Style_Gold(26), 16, 32, 7, 28));
 }
 
@@ -168,7 +168,7 @@ void Record_Message(Output& out) {
   Save_Rgba(out, "spfon2.bmp", Text_Cell_At("PLACE!", s, 128, 32, 4, 16, Align::Left));
   const char* ranks[5] = {"1ST", "2ND", "3RD", "4TH", "5TH"};
   const char* files[5] = {"1st.bmp", "2nd.bmp", "3rd.bmp", "4th.bmp", "5th.bmp"};
-  for (int i = 0; i < 5; ++i) Save_Rgba(out, files[i], Text_Cell(ranks[i], Style_Call(20, 64), 64, 32, 34, 18));
+  for (int i = 0; i < 5; ++i) Save_Rgba(out, files[i], Text_Cell(ranks[i], Style_Call(16, 56), 64, 32, 32, 16));
 }
 
 }  // namespace
