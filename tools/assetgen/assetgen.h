@@ -25,6 +25,8 @@ struct Generator {
 // Generators of the audio (assetgen_sounds.cpp, assetgen_music.cpp).
 bool Generate_Sounds(const Context& ctx);
 bool Generate_Music(const Context& ctx);
+// The fighters' models, textures, alternate faces and skeletons (assetgen_figures.cpp).
+bool Generate_Figures(const Context& ctx);
 
 // An external command that makes `output` from `inputs`. The command runs under /bin/sh.
 // A job whose command and input contents match a cached run takes the cached output instead.

@@ -12,8 +12,9 @@
 namespace {
 
 constexpr gen::Generator kGenerators[] = {
-    {"sounds", gen::Generate_Sounds},  // 0..177 wave files
-    {"music", gen::Generate_Music},    // music/track02.ogg .. track17.ogg
+    {"figures", gen::Generate_Figures},  // 30 model rows, their pictures, 15 skeletons
+    {"sounds", gen::Generate_Sounds},    // 0..177 wave files
+    {"music", gen::Generate_Music},      // music/track02.ogg .. track17.ogg
 };
 
 bool make_work_dir(gen::fs::path* out) {
