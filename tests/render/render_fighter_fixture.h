@@ -1,11 +1,12 @@
 // A fight scene set up directly, for the drawing tests and the drawing benchmark: generated
-// figures skinned in one solid colour each, standing in their rest pose at the round-start
+// figures skinned in one solid colour each (or in their painted skins), standing in their rest pose at the round-start
 // places, on a stage whose floor, light and backdrop pictures are solid colours too. Files
 // go to the current directory. Needs the GL context and the angle tables.
 #pragma once
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <vector>
 
 #include "assets/asset_anim.h"
 #include "assets/asset_image.h"
@@ -13,6 +14,7 @@
 #include "camera/camera_fight.h"
 #include "fight/fight_state.h"
 #include "figures/fig_figure.h"
+#include "figures/fig_paint.h"
 #include "render/render_fighter.h"
 #include "render/render_stage.h"
 #include "render/render_view.h"
@@ -35,11 +37,18 @@ inline bool write_solid(const char* name, Rgb c, int side = 8) {
   return writers::Write_Image(name, img);
 }
 
-// The generated figure of `row` as a model file whose every texture is one solid colour.
-inline bool write_figure(int row, int player, const char* file, Rgb colour) {
+inline bool write_rgb(const char* name, const fig::Image& image) {
+  return writers::Write_Image(name, {image.width, image.height, 3, image.rgb});
+}
+
+// The generated figure of `row` as a model file whose every texture is one solid colour, or
+// its painted skin.
+inline bool write_figure(int row, int player, const char* file, Rgb colour, bool painted) {
   auto m = std::make_unique<fig::Model>();
   fig::TextureLayout layout;
   if (!fig::Fig_BuildModel(row, *m, layout)) return false;
+  std::vector<fig::NamedImage> skins, faces;
+  if (painted) fig::Fig_PaintRow(row, *m, layout, skins, faces);
   writers::Model3DM out;
   for (int i = 1; i <= m->vertex_count; ++i) {
     const fig::Vertex& v = m->vertices[i];
@@ -61,7 +70,8 @@ inline bool write_figure(int row, int player, const char* file, Rgb colour) {
   for (int t = 0; t < m->texture_count; ++t) {
     char name[32];
     std::snprintf(name, sizeof name, "P%dT%02d.BMP", player, t);
-    if (!write_solid(name, colour)) return false;
+    const bool skin = t < static_cast<int>(skins.size());
+    if (!(skin ? write_rgb(name, skins[t].image) : write_solid(name, colour))) return false;
     out.textures.push_back(name);
   }
   return writers::Write_3DM(file, out);
@@ -84,14 +94,14 @@ inline void rest_pose(int player) {
 }
 
 // Row `row`'s figure as fighter `player` at its round-start place, facing the other side.
-inline bool load_fighter(int row, int player) {
+inline bool load_fighter(int row, int player, bool painted = false) {
   char file[32], alt[2][32];
   std::snprintf(file, sizeof file, "FIG%d.3DM", player);
   for (int k = 0; k < 2; ++k) {
     std::snprintf(alt[k], sizeof alt[k], "P%dA%d.BMP", player, k);
     if (!write_solid(alt[k], kSkin[player])) return false;
   }
-  if (!write_figure(row, player, file, kSkin[player])) return false;
+  if (!write_figure(row, player, file, kSkin[player], painted)) return false;
   static const Fighter kBlank{};
   fighters[player] = kBlank;
   Load_3DM(file, player, alt[0], alt[1]);
