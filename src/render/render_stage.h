@@ -24,10 +24,12 @@ constexpr int SUPER_SPRITE_0 = 450;       // super-move picture of fighter 0's c
 constexpr int SUPER_SPRITE_1 = 451;       // and of fighter 1's
 constexpr int SUPER_SHADE_SPRITE = 126;   // darkens the screen while a super move runs
 static_assert(FLOOR_TRIANGLES == 98);
+static_assert(sizeof(ScreenVertex) == 28, "the clipper interpolates every field of a corner");
 
 struct StagePoint {
   float x, y, z, s, t;
 };
+static_assert(sizeof(StagePoint) == 20);
 // A floor or light-pool mesh: the 8 x 8 grid, or the one square of a front-end scene.
 struct StageMesh {
   std::int32_t vertex_count;

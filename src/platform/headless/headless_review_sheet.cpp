@@ -1,6 +1,7 @@
 // Contact sheets: for every character one picture of its key poses side by side, each cell
 // half the screen's size and labelled with its action and frame.
 #include <png.h>
+#include <sys/stat.h>
 
 #include <cstdio>
 #include <cstring>
@@ -159,6 +160,7 @@ bool sheet_of(int character, const char* out_dir) {
 }  // namespace
 
 int Review_Sheets(const char* out_dir) {
+  mkdir(out_dir, 0755);  // one that is already there is fine; a failure shows when writing
   if (!Review_Begin()) return 1;
   int status = 0;
   for (int c = 0; c < CHARACTERS; ++c)
