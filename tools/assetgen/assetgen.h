@@ -27,6 +27,10 @@ bool Generate_Sounds(const Context& ctx);
 bool Generate_Music(const Context& ctx);
 // The fighters' models, textures, alternate faces and skeletons (assetgen_figures.cpp).
 bool Generate_Figures(const Context& ctx);
+// The thrown objects' models and their pictures (assetgen_effect_models.cpp).
+bool Generate_EffectModels(const Context& ctx);
+// The shared motions, PRELOAD.FA and PRELOAD.TBL (assetgen_motions.cpp).
+bool Generate_Motions(const Context& ctx);
 
 // An external command that makes `output` from `inputs`. The command runs under /bin/sh.
 // A job whose command and input contents match a cached run takes the cached output instead.

@@ -15,6 +15,8 @@ constexpr gen::Generator kGenerators[] = {
     {"figures", gen::Generate_Figures},  // 30 model rows, their pictures, 15 skeletons
     {"sounds", gen::Generate_Sounds},    // 0..177 wave files
     {"music", gen::Generate_Music},      // music/track02.ogg .. track17.ogg
+    {"effect models", gen::Generate_EffectModels},  // FAR.3DM, CARDFIRE.3DM, AXE.3DM
+    {"motions", gen::Generate_Motions},              // PRELOAD.FA, PRELOAD.TBL
 };
 
 bool make_work_dir(gen::fs::path* out) {

@@ -3,6 +3,9 @@
 file(GLOB ASSETGEN_CONTENT_SOURCES CONFIGURE_DEPENDS
      ${CMAKE_SOURCE_DIR}/tools/assetgen/figures/*.cpp
      ${CMAKE_SOURCE_DIR}/tools/assetgen/motion/*.cpp)
+file(GLOB ASSETGEN_CONTENT_HEADERS CONFIGURE_DEPENDS
+     ${CMAKE_SOURCE_DIR}/tools/assetgen/figures/*.h
+     ${CMAKE_SOURCE_DIR}/tools/assetgen/motion/*.h)
 add_library(assetgen_content STATIC ${ASSETGEN_CONTENT_SOURCES})
 target_include_directories(assetgen_content PUBLIC ${CMAKE_SOURCE_DIR}/tools/assetgen)
 
