@@ -83,7 +83,7 @@ void Run_ImpactTimer();
 // faces or fading: a fighter shown off in a front-end scene.
 void Draw_Showcase(int player);
 // The fight's character pass: flexible swings, placement, shadows, meshes and chains in the
-// order the fight's state asks for. The effect pass follows it unless the win pose runs.
+// order the fight's state asks for, then the effect pass unless the win pose runs.
 void Draw_Fighters();
 
 // ---- the flexible part -------------------------------------------------------------------

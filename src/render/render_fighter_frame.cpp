@@ -1,6 +1,7 @@
 // The fight's character pass and the flexible part's swing.
 #include "fight/fight_state.h"
 #include "render/render_chain.h"
+#include "render/render_effect.h"
 #include "render/render_fighter.h"
 #include "shell/shell.h"
 
@@ -44,6 +45,7 @@ void Draw_Fighters() {
     place_and_shadow(loser);
     Draw_Mesh(loser);
     Update_Attachments(loser);
+    Draw_Effects();
     return;
   }
   if (Match.win_pose_count >= 1) {
@@ -52,7 +54,7 @@ void Draw_Fighters() {
     loser.action = kLyingAction;
     loser.frame = loser.act_first[kLyingAction];
     draw_alone(winner);
-    return;
+    return;  // no effects during the win pose
   }
   if (ordinary_fight()) {
     place_and_shadow(0);
@@ -61,14 +63,15 @@ void Draw_Fighters() {
     Draw_Mesh(1);
     Update_Attachments(0);
     Update_Attachments(1);
-    return;
+  } else {
+    Update_Attachments(0);
+    place_and_shadow(0);
+    Update_Attachments(1);
+    place_and_shadow(1);
+    Draw_Mesh(0);
+    Draw_Mesh(1);
   }
-  Update_Attachments(0);
-  place_and_shadow(0);
-  Update_Attachments(1);
-  place_and_shadow(1);
-  Draw_Mesh(0);
-  Draw_Mesh(1);
+  Draw_Effects();
 }
 
 void Start_Flex(int player, int strength, int direction) {

@@ -4,6 +4,7 @@
 
 #include "camera/camera_fight.h"
 #include "fight/fight_state.h"
+#include "render/render_effect.h"
 #include "render/render_sprite.h"
 #include "render/render_stage.h"
 #include "render/render_state.h"
@@ -139,4 +140,5 @@ void Draw_Stage() {
     draw_super_picture(f0.super_finish ? SUPER_SPRITE_0 : SUPER_SPRITE_1);
   }
   SpriteDraw.Layer_Z = layer;
+  Run_GlowRing();
 }
