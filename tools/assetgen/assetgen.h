@@ -25,6 +25,8 @@ struct Generator {
 // Generators of the audio (assetgen_sounds.cpp, assetgen_music.cpp).
 bool Generate_Sounds(const Context& ctx);
 bool Generate_Music(const Context& ctx);
+// Every character's own animation and table files, and the opening's (assetgen_moves.cpp).
+bool Generate_Moves(const Context& ctx);
 
 // An external command that makes `output` from `inputs`. The command runs under /bin/sh.
 // A job whose command and input contents match a cached run takes the cached output instead.

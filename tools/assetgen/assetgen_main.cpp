@@ -14,6 +14,7 @@ namespace {
 constexpr gen::Generator kGenerators[] = {
     {"sounds", gen::Generate_Sounds},  // 0..177 wave files
     {"music", gen::Generate_Music},    // music/track02.ogg .. track17.ogg
+    {"moves", gen::Generate_Moves},    // each character's own moves, the opening's motions
 };
 
 bool make_work_dir(gen::fs::path* out) {
