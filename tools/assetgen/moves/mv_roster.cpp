@@ -19,6 +19,7 @@ namespace {
 using A = Arch;
 
 // How a character moves: its tempo, how far its poses go, whether it strikes with a weapon.
+// No two characters share a power, so no two characters' moves are the same.
 struct Style {
   float speed;  // frames x speed: below 1 quicker
   float power;  // swing of every pose away from the stance
@@ -31,17 +32,17 @@ constexpr Style kStyles[15] = {
     {1.00f, 1.00f, false, A::VictoryFist,  A::VictoryBow},    // 0
     {0.85f, 0.95f, false, A::VictoryBow,   A::VictoryFist},   // 1
     {1.00f, 1.05f, false, A::VictoryArms,  A::VictoryFist},   // 2
-    {0.90f, 1.00f, false, A::VictoryBow,   A::VictoryArms},   // 3
+    {0.90f, 0.97f, false, A::VictoryBow,   A::VictoryArms},   // 3
     {1.15f, 1.15f, false, A::VictoryArms,  A::VictoryFist},   // 4
-    {0.90f, 0.95f, true,  A::VictoryBlade, A::VictoryBow},    // 5
-    {1.00f, 1.00f, true,  A::VictoryBlade, A::VictoryArms},   // 6
-    {0.90f, 1.00f, false, A::VictoryFist,  A::VictoryArms},   // 7
+    {0.90f, 0.93f, true,  A::VictoryBlade, A::VictoryBow},    // 5
+    {1.05f, 0.98f, true,  A::VictoryBlade, A::VictoryArms},   // 6
+    {0.95f, 1.02f, false, A::VictoryFist,  A::VictoryArms},   // 7
     {1.20f, 1.10f, false, A::VictoryArms,  A::VictoryBow},    // 8
-    {0.85f, 1.00f, true,  A::VictoryBlade, A::VictoryFist},   // 9
-    {0.90f, 1.10f, false, A::VictoryFist,  A::VictoryBow},    // 10
-    {1.00f, 1.10f, false, A::VictoryArms,  A::VictoryBow},    // 11
-    {0.95f, 1.05f, false, A::VictoryBow,   A::VictoryFist},   // 12
-    {1.15f, 1.15f, true,  A::VictoryBlade, A::VictoryArms},   // 13
+    {0.85f, 1.03f, true,  A::VictoryBlade, A::VictoryFist},   // 9
+    {0.90f, 1.12f, false, A::VictoryFist,  A::VictoryBow},    // 10
+    {1.00f, 1.09f, false, A::VictoryArms,  A::VictoryBow},    // 11
+    {0.95f, 1.07f, false, A::VictoryBow,   A::VictoryFist},   // 12
+    {1.10f, 1.18f, true,  A::VictoryBlade, A::VictoryArms},   // 13
     {1.05f, 1.20f, false, A::VictoryArms,  A::VictoryFist},   // 14
 };
 // clang-format on
@@ -125,7 +126,7 @@ constexpr Row kRows[15][kMaxRows] = {
      {193, A::Uppercut, 20, 0, false}, {194, A::Throw, 24, 0, false}, {195, A::SuperBlades, 407, 432, false},
      {266, A::Rush, 35, 10, false}, {267, A::Straight, 10, 0, false}, {268, A::SpinKick, 11, 0, false},
      {271, A::SuperSpin, 411, 431, false}},  // 13
-    {},  // 14: character 0's moves
+    {{193, A::FlyingKnee, 10, 0, true}},  // 14: character 0's moves, and one of its own
 };
 // clang-format on
 
@@ -153,22 +154,26 @@ int Part_Of(Limb limb, bool mirror, const Style& st) {
   return 0;
 }
 
-// The link entry and window: the window closes at the end of the first run of link beats;
+// The link window closes at the end of the first link beat (where a chained move may start);
 // later beats carry no link mark.
 void Set_Window(Move& mv) {
   int frame = 0;
-  bool in_run = false, done = false;
   for (int i = 0; i < mv.motion.phase_count; ++i) {
     mot::Phase& ph = mv.motion.phases[i];
     frame += ph.frames;
-    if (ph.link && !done) {
-      in_run = true;
-      mv.window = frame;  // frame numbers count from 1 within the move's range
-    } else if (in_run) {
-      done = true;
-    }
-    if (done) ph.link = false;
+    if (ph.link && mv.window < 0) mv.window = frame;  // frames count from 1 within the move
+    else ph.link = false;
   }
+}
+
+// A linked start skips the wind-up, but never reaches the first strike.
+int Entry_Of(const mot::Motion& m, int wanted) {
+  int frame = 0;
+  for (int i = 0; i < m.phase_count; ++i) {
+    if (m.phases[i].strike_part >= 2) return std::min(wanted, std::max(0, frame - 1));
+    frame += m.phases[i].frames;
+  }
+  return std::min(wanted, std::max(0, frame - 1));
 }
 
 Move Build_Move(int action, const Style& st, const Row& row) {
@@ -203,9 +208,7 @@ Move Build_Move(int action, const Style& st, const Row& row) {
     frame += ph.frames;
     if (b.hit == 3) mv.marks.push_back({frame, 0, 1});  // a foot settles
   }
-  int entry = 0;
-  for (int i = 0; i < d.entry && i < mv.motion.phase_count; ++i) entry += mv.motion.phases[i].frames;
-  mv.entry = d.entry > 0 ? std::min(entry, 12) : 0;
+  mv.entry = Entry_Of(mv.motion, static_cast<int>(std::lround(d.entry * st.speed)));
   Set_Window(mv);
   return mv;
 }
@@ -246,7 +249,19 @@ constexpr HoldPair kHoldPairs[] = {
     {364, 434}, {365, 435}, {367, 437}, {369, 439}, {370, 440}, {371, 441},
 };
 
-int Rows_Character(int character) { return character == 14 ? 0 : character; }
+// The rows a character plays: the boss plays character 0's, then its own.
+std::vector<const Row*> Rows_Of(int character) {
+  std::vector<const Row*> out;
+  auto add = [&](int c) {
+    for (const Row& row : kRows[c]) {
+      if (row.action == 0) break;
+      out.push_back(&row);
+    }
+  };
+  if (character == 14) add(0);
+  add(character);
+  return out;
+}
 
 bool Has_Action(const std::vector<Move>& moves, int action) {
   for (const Move& m : moves)
@@ -287,10 +302,7 @@ void Mv_CharacterMoves(int character, std::vector<Move>& out) {
   out.clear();
   if (character < 0 || character >= 15) return;
   const Style& st = kStyles[character];
-  for (const Row& row : kRows[Rows_Character(character)]) {
-    if (row.action == 0) break;
-    out.push_back(Build_Move(row.action, st, row));
-  }
+  for (const Row* row : Rows_Of(character)) out.push_back(Build_Move(row->action, st, *row));
   Add_Holds(character, st, out);
   out.push_back(Build_Move(241, st, Row{241, Arch::LowPalm, 4, 0, false}));
   out.push_back(Build_Move(242, st, Row{242, Arch::LowKick, 8, 0, false}));
@@ -308,10 +320,9 @@ Move Mv_StyledMove(int character, int action, int arch, int main_hit, int finish
 
 int Mv_ProjectileKind(int character, int action) {
   if (character < 0 || character >= 15) return 0;
-  for (const Row& row : kRows[Rows_Character(character)]) {
-    if (row.action == 0) break;
-    int kind = row.main % 100;
-    if (row.action == action && (kind == 24 || kind == 25 || kind == 42 || kind == 43)) return kind;
+  for (const Row* row : Rows_Of(character)) {
+    int kind = row->main % 100;
+    if (row->action == action && (kind == 24 || kind == 25 || kind == 42 || kind == 43)) return kind;
   }
   return 0;
 }
