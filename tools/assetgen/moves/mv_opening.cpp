@@ -1,5 +1,6 @@
 // The opening's choreography. Each side's performance is one long action: its moves fall in
-// the script ranges where the scene shows that side, and it breathes in its stance between
+// the script ranges where the scene shows that side (side 0 in 0..199, 452..569, 723..795,
+// 855..1027 and 1152..1280, side 1 in the rest), and it breathes in its stance between
 // them. Nothing in it strikes (both fighters stand on the same spot), but the swings keep
 // their whooshes.
 #include "moves/mv_opening.h"
@@ -15,12 +16,6 @@ namespace mv {
 namespace {
 
 constexpr int kCharacterOf[2] = {0, 9};
-
-struct Range {
-  int first, last;  // script frames, inclusive
-};
-// Where the scene shows side 0; side 1 is shown everywhere else.
-constexpr Range kSide0[] = {{0, 199}, {452, 569}, {723, 795}, {855, 1027}, {1152, 1280}};
 
 // One move of a performance, started at a script frame.
 struct Cue {
@@ -136,12 +131,6 @@ float Ease(float a, float b, float t) {
 
 const char* Mv_OpeningAnimFile(int side) { return side == 0 ? "OPEN_BAN.FA" : "OPEN_KNI.FX"; }
 std::string Mv_OpeningTableFile(int side) { return side == 0 ? "OPEN_BAN.TBL" : "OPEN_KNI.TBL"; }
-
-bool Mv_OpeningShows(int side, int s) {
-  bool side0 = false;
-  for (const Range& r : kSide0) side0 = side0 || (s >= r.first && s <= r.last);
-  return side == 0 ? side0 : !side0;
-}
 
 bool Mv_BakeOpening(int side, OwnFiles& out, std::string* error) {
   const int character = kCharacterOf[side == 0 ? 0 : 1];

@@ -17,7 +17,4 @@ bool Mv_BakeOpening(int side, OwnFiles& out, std::string* error);
 // The eye and look-at points, relative to fighter 0, in the file's units.
 void Mv_OpeningCamera(writers::CameraPathFile& eye, writers::CameraPathFile& look);
 
-// The script frames at which the scene cuts, and whether side 0 is on show at a script frame.
-bool Mv_OpeningShows(int side, int script_frame);
-
 }  // namespace mv
