@@ -17,6 +17,7 @@ constexpr gen::Generator kGenerators[] = {
     {"music", gen::Generate_Music},      // music/track02.ogg .. track17.ogg
     {"effect models", gen::Generate_EffectModels},  // FAR.3DM, CARDFIRE.3DM, AXE.3DM
     {"motions", gen::Generate_Motions},              // PRELOAD.FA, PRELOAD.TBL
+    {"moves", gen::Generate_Moves},  // after the motions: each character's own moves, the opening's motions
 };
 
 bool make_work_dir(gen::fs::path* out) {
