@@ -7,6 +7,8 @@
 #include "assets/asset_anim.h"
 #include "audio/audio.h"
 #include "camera/camera_path.h"
+#include "fight/fight_ranking.h"
+#include "fight/fight_state.h"
 #include "input/input.h"
 #include "platform/platform.h"
 #include "render/render_math.h"
@@ -81,6 +83,7 @@ int Game_Main() {
   LoadCameraPath("OPEN_POS.CAM", 1, CAMERA_PATH_EYE);
   LoadCameraPath("OPEN_POI.CAM", 1, CAMERA_PATH_LOOK_AT);
   Settings_Load();
+  Adjust_TimeRanking(Match.life_setting);  // once: later option changes keep the times
 
   Shell.GameMode = MODE_OPENING;
 

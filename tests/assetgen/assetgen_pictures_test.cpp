@@ -13,6 +13,7 @@
 #include "assetgen.h"
 #include "assets/asset_image.h"
 #include "figures/fig_roster.h"
+#include "render/render_stage.h"
 #include "pictures/pic_groups.h"
 #include "pictures/pic_text.h"
 #include "support/test_support.h"
@@ -93,15 +94,13 @@ Names Front_End_Sets() {
   return n;
 }
 
+// Every character's stage from the game's own stage table, and the model rows' faces.
 Names Stage_Files() {
   Names n;
-  for (int s = 1; s <= 12; ++s) {
-    char stem[8];
-    std::snprintf(stem, sizeof stem, "DS%02d", s);
-    for (const char* part : {"_MA1", "_BG1", "_BG2", "_BG3"}) n.push_back(std::string(stem) + part + ".bmp");
+  for (const StagePictures& row : StageTable) {
+    n.push_back(row.floor), n.push_back(row.light), n.push_back(row.super_move);
+    for (const char* panel : row.backdrop) n.push_back(panel);
   }
-  List(n, {"LIGHT", "WHITE", "SB_BAN", "SB_HANA", "SB_KAIDE", "SB_EUNYU", "SB_DRUNG", "SB_HONOK", "SB_RABAL", "SB_REIME",
-           "SB_VASHI", "SB_KNIFE"});
   for (int row = 0; row < fig::kRows; ++row) n.push_back(fig::Fig_HurtFaceFile(row)), n.push_back(fig::Fig_ShoutFaceFile(row));
   return n;
 }
@@ -147,7 +146,8 @@ bool Power_Of_Two(int v) { return v > 0 && (v & (v - 1)) == 0; }
 // The whole picture set, generated once for the suite.
 class AssetgenPictures : public ::testing::Test {
  protected:
-  // The build's data set when it holds the pictures; otherwise a fresh set in a scratch directory.
+  // The build's data set when it holds the pictures; otherwise fresh fighters and pictures in a
+  // scratch directory.
   static void SetUpTestSuite() {
     if (!Read(std::string(VALDRUNE_DATA_DIR) + "/ma01.bmp").empty()) {
       dir_ = VALDRUNE_DATA_DIR;
@@ -159,7 +159,7 @@ class AssetgenPictures : public ::testing::Test {
     dir_ = scratch_ = templ;
     gen::Context ctx;
     ctx.out = dir_;
-    ok_ = gen::Generate_Pictures(ctx);
+    ok_ = gen::Generate_Figures(ctx) && gen::Generate_Pictures(ctx);
   }
   static void TearDownTestSuite() {
     if (!scratch_.empty()) std::system(("rm -rf '" + scratch_ + "'").c_str());

@@ -25,7 +25,15 @@ struct Generator {
 // Generators of the audio (assetgen_sounds.cpp, assetgen_music.cpp).
 bool Generate_Sounds(const Context& ctx);
 bool Generate_Music(const Context& ctx);
-// Every picture the game names (pictures/pic_main.cpp).
+// The fighters' models, textures, alternate faces and skeletons (assetgen_figures.cpp).
+bool Generate_Figures(const Context& ctx);
+// The thrown objects' models and their pictures (assetgen_effect_models.cpp).
+bool Generate_EffectModels(const Context& ctx);
+// The shared motions, PRELOAD.FA and PRELOAD.TBL (assetgen_motions.cpp).
+bool Generate_Motions(const Context& ctx);
+// Every character's own animation and table files, and the opening's (assetgen_moves.cpp).
+bool Generate_Moves(const Context& ctx);
+// Every picture the scenes, stages and effects name (pictures/pic_main.cpp).
 bool Generate_Pictures(const Context& ctx);
 
 // An external command that makes `output` from `inputs`. The command runs under /bin/sh.

@@ -1,6 +1,10 @@
 // valdrune-headless: the game on the headless backend, for tests, screenshots and soak runs.
 //
 //   valdrune-headless --data DIR [--frames N] [--script FILE] [--shots OUTDIR --shot-every K]
+//   valdrune-headless --data DIR --pose CHAR:ACTION:FRAME --out FILE.png
+//   valdrune-headless --data DIR --sheet OUTDIR
+// --pose draws character row CHAR (0..29) in frame FRAME of ACTION (counted from the action's
+// first frame); --sheet writes OUTDIR/sheet-CC.png, the key poses of each character.
 #include <unistd.h>
 
 #include <cstdio>
@@ -8,6 +12,7 @@
 #include <cstring>
 
 #include "platform/headless/headless.h"
+#include "platform/headless/headless_review.h"
 #include "shell/shell.h"
 
 namespace {
@@ -15,7 +20,9 @@ namespace {
 int usage() {
   std::fprintf(stderr,
                "usage: valdrune-headless --data DIR [--frames N] [--script FILE]"
-               " [--shots OUTDIR --shot-every K]\n");
+               " [--shots OUTDIR --shot-every K]\n"
+               "       valdrune-headless --data DIR --pose CHAR:ACTION:FRAME --out FILE.png\n"
+               "       valdrune-headless --data DIR --sheet OUTDIR\n");
   return 2;
 }
 
@@ -41,6 +48,9 @@ int main(int argc, char** argv) {
   const char* shots = nullptr;
   long frames = 0;
   int every = 0;
+  const char* pose = nullptr;   // review tools
+  const char* out = nullptr;
+  const char* sheet = nullptr;
   for (int i = 1; i < argc; ++i) {
     const bool has_value = i + 1 < argc;
     if (!std::strcmp(argv[i], "--data") && has_value) data = argv[++i];
@@ -48,14 +58,23 @@ int main(int argc, char** argv) {
     else if (!std::strcmp(argv[i], "--script") && has_value) script = argv[++i];
     else if (!std::strcmp(argv[i], "--shots") && has_value) shots = argv[++i];
     else if (!std::strcmp(argv[i], "--shot-every") && has_value) every = std::atoi(argv[++i]);
+    else if (!std::strcmp(argv[i], "--pose") && has_value) pose = argv[++i];
+    else if (!std::strcmp(argv[i], "--out") && has_value) out = argv[++i];
+    else if (!std::strcmp(argv[i], "--sheet") && has_value) sheet = argv[++i];
     else return usage();
   }
   if (data == nullptr || frames < 0 || (shots != nullptr) != (every > 0)) return usage();
+  int row = 0, action = 0, frame = 0;
+  if (pose && (out == nullptr || sheet || !Review_ParsePose(pose, &row, &action, &frame)))
+    return usage();
+  if (out && !pose) return usage();
 
   char script_path[1100];
   char shots_path[1100];
   if (script) absolute(script, script_path, sizeof script_path);
   if (shots) absolute(shots, shots_path, sizeof shots_path);
+  char review_path[1100];
+  if (out || sheet) absolute(out ? out : sheet, review_path, sizeof review_path);
 
   if (script) {
     char err[700];
@@ -68,6 +87,8 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "valdrune-headless: cannot enter the data directory %s\n", data);
     return 2;
   }
+  if (pose) return Review_Pose(row, action, frame, review_path);
+  if (sheet) return Review_Sheets(review_path);
   Headless_SetFrameLimit(frames);
   if (shots) Headless_SetShots(shots_path, every);
   Headless_SetModeProbe(current_mode);

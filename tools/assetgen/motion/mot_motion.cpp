@@ -84,6 +84,8 @@ void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out) {
       BakedFrame bf{};
       Bake_Pose(mo, j, p, bf, rest_sole);
       bf.offset = travelled + ph.travel * Mot_Ease(Ease::InOut, s, n);
+      float t = static_cast<float>(s) / n;
+      bf.offset.y += ph.arc * 4.0f * t * (1.0f - t);
       if (ph.link) bf.part = 1;
       if (ph.strike_part >= 2) {
         bf.part = static_cast<std::int16_t>(ph.strike_part);
@@ -91,6 +93,11 @@ void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out) {
       }
       out.push_back(bf);
     }
+    if (ph.impact && out.back().part == 0) {
+      out.back().part = kImpactPart;
+      out.back().hit = kImpactHit;
+    }
+    if (ph.footfall > 0 && out.back().part <= 1) out.back().hit = static_cast<std::int16_t>(ph.footfall);
     // A cue sounds on the phase's first frame; on a striking phase it moves one frame earlier so
     // that it does not break the run of strike frames.
     if (ph.cue >= 0) {

@@ -14,7 +14,8 @@ enum class Ease : std::uint8_t { Linear, In, Out, InOut, Snap };
 
 // Marks on a phase. A strike names the striking part and the hit attribute for every frame of
 // the phase; a cue plays a sound on the phase's first frame; a link lets the computer chain its
-// next move on the phase's frames.
+// next move on the phase's frames. An impact marks the frame the body hits the floor (part 2,
+// hit 5); a footfall marks the frame a foot lands without striking (no part, hit 1..3).
 struct Phase {
   const Pose* pose = nullptr;  // reached on the phase's last frame
   int frames = 1;
@@ -24,7 +25,12 @@ struct Phase {
   int cue = -1;
   bool link = false;
   fig::Vec3 travel;  // whole-body travel over the phase, model units (the frame offsets)
+  float arc = 0;     // the body rises this high at the phase's middle and comes back down
+  bool impact = false;  // the body hits the floor on the phase's last frame
+  int footfall = 0;     // a foot lands on the phase's last frame: frame_hit 1..3 (the dust size)
 };
+
+constexpr int kImpactPart = 2, kImpactHit = 5;  // the body hitting the floor
 
 constexpr int kMaxPhases = 16;
 struct Motion {

@@ -16,6 +16,5 @@ void Pictures_Title(Output& out);          // pic_title.cpp: title and opening
 void Pictures_Ranking(Output& out);        // pic_menus.cpp
 void Pictures_Options(Output& out);        // pic_menus.cpp
 void Pictures_Ending(Output& out);         // pic_ending.cpp
-void Pictures_Faces(Output& out);          // pic_supers.cpp: the fighters' alternate faces
 
 }  // namespace pic

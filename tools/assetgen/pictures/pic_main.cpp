@@ -13,7 +13,7 @@ bool Generate_Pictures(const Context& ctx) {
   out.dir = ctx.out;
   void (*const groups[])(pic::Output&) = {
       pic::Pictures_FightHud, pic::Pictures_FightMessages, pic::Pictures_Effects,
-      pic::Pictures_Stages, pic::Pictures_Portraits, pic::Pictures_Supers, pic::Pictures_Faces,
+      pic::Pictures_Stages, pic::Pictures_Portraits, pic::Pictures_Supers,
       pic::Pictures_Select, pic::Pictures_Versus, pic::Pictures_Title,
       pic::Pictures_Ranking, pic::Pictures_Options, pic::Pictures_Ending,
   };

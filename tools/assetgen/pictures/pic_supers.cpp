@@ -1,13 +1,7 @@
 // Super-move backdrops: the mover's figure in silhouette against a burst of light, drawn
 // over the whole screen with colours sweeping across it, so they are kept light and plain.
-// Also the alternate faces the fighters' models swap in when hurt or shouting.
-#include <set>
 #include <string>
-#include <vector>
 
-#include "figures/fig_figure.h"
-#include "figures/fig_paint.h"
-#include "figures/fig_roster.h"
 #include "pictures/pic_figure.h"
 #include "pictures/pic_groups.h"
 
@@ -63,24 +57,5 @@ void Supers(Output& out) {
 }  // namespace
 
 void Pictures_Supers(Output& out) { Supers(out); }
-
-// The hurt and shouting faces every model row names, each file written once.
-void Pictures_Faces(Output& out) {
-  std::set<std::string> done;
-  for (int row = 0; row < fig::kRows; ++row) {
-    auto model = std::make_unique<fig::Model>();
-    fig::TextureLayout layout;
-    if (!fig::Fig_BuildModel(row, *model, layout)) continue;
-    std::vector<fig::NamedImage> tex, faces;
-    fig::Fig_PaintRow(row, *model, layout, tex, faces);
-    for (const fig::NamedImage& f : faces) {
-      if (!done.insert(f.name).second) continue;
-      Canvas c = Make_Canvas(f.image.width, f.image.height);
-      for (std::size_t i = 0; i < c.px.size(); ++i)
-        c.px[i] = {f.image.rgb[i * 3] / 255.0f, f.image.rgb[i * 3 + 1] / 255.0f, f.image.rgb[i * 3 + 2] / 255.0f, 1};
-      Save_Rgb(out, f.name, c);
-    }
-  }
-}
 
 }  // namespace pic

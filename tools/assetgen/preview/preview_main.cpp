@@ -1,6 +1,7 @@
 // assetgen_preview: renders generated fighters to PNG contact sheets, to look at them.
 //   assetgen_preview roster OUT.png [first_row]   fifteen rows in the fighting stance
-//   assetgen_preview motions OUT.png [row]        frames of every shared motion on one row
+//   assetgen_preview motions OUT.png [row [first_action last_action]]
+//                                                 frames of the shared motions on one row
 //   assetgen_preview sides OUT.png [row]          one row from four sides
 #include <cstdio>
 #include <cstdlib>
@@ -93,16 +94,21 @@ int main(int argc, char** argv) {
   } else if (std::strcmp(mode, "motions") == 0) {
     Loaded fl;
     if (!Load_Row(arg, fl)) return 1;
-    constexpr int kCols = 6;
-    int n = mot::Mot_SharedCount();
-    preview::Canvas_Init(sheet, kW * kCols, kH * n / 2, 0);
-    for (int i = 0; i < n; ++i) {
-      const mot::Motion& mo = mot::Mot_Shared(i);
-      int len = mot::Mot_Length(mo);
+    int first = argc > 5 ? std::atoi(argv[4]) : 0, last = argc > 5 ? std::atoi(argv[5]) : 999;
+    std::vector<const mot::Motion*> shown;
+    for (int i = 0; i < mot::Mot_SharedCount(); ++i)
+      if (mot::Mot_Shared(i).action >= first && mot::Mot_Shared(i).action <= last) shown.push_back(&mot::Mot_Shared(i));
+    if (shown.empty()) return 1;
+    constexpr int kCols = 8;
+    constexpr int kCellW = kW * 3 / 4, kCellH = kH / 2;
+    preview::Canvas_Init(sheet, kCellW * kCols, kCellH * static_cast<int>(shown.size()), 0);
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+      int len = mot::Mot_Length(*shown[i]);
       for (int k = 0; k < kCols; ++k) {
-        int frame = len * k / kCols;
-        Draw_Cell(sheet, k * kW, i * kH / 2, kW, kH / 2, fl, mo, frame, 110);
+        int frame = (len - 1) * k / (kCols - 1);
+        Draw_Cell(sheet, k * kCellW, static_cast<int>(i) * kCellH, kCellW, kCellH, fl, *shown[i], frame, 110);
       }
+      std::printf("%d %s (%d frames)\n", shown[i]->action, shown[i]->name, len);
     }
   } else if (std::strcmp(mode, "sides") == 0) {
     Loaded fl;
