@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <cstring>
 
+#include "render/render_effect.h"
+
 MatchState Match;
 std::int32_t frame_count = 0;
 std::int32_t select_slot[2] = {0, 9};
@@ -117,6 +119,7 @@ void reset_round() {
   Match.side_b = 1;
   Match.time_rank = 0;
   Match.reverse[0] = Match.reverse[1] = 0;
+  Clear_Projectiles();  // body-part effects went with each fighter's reset
 }
 
 void DrainGauges() {

@@ -60,6 +60,9 @@ struct MatchState {
   std::int32_t character[2] = {0, 0};  // character index of each fighter
   std::int32_t reverse[2] = {0, 0};    // reversed controls per side
   std::int32_t reverse_frames[2] = {0, 0};
+  std::int32_t win_pose_count = 0;   // 0 none, else frames of the win pose plus one
+  std::int32_t impact_strength = 0;  // the impact shake the hit code starts
+  std::int32_t impact_frames = 0;    // run down by every placement and mesh pass
 };
 extern MatchState Match;
 

@@ -4,6 +4,7 @@
 #include "assets/asset_image.h"
 #include "fight/fight_state.h"
 #include "render/render_effect.h"
+#include "render/render_fighter.h"
 #include "render/render_math.h"
 #include "render/render_sprite.h"
 #include "render/render_state.h"
@@ -92,19 +93,6 @@ bool floor_square(ScreenVertex* q, float y, float x0, float z0, float x1, float 
 
 bool valid_effect(int i) { return i >= 0 && i < HIT_EFFECTS; }
 
-// The fighter's body centre on the floor: the centre of its hips' box, slid onto its line of
-// travel as the placement does.
-void body_centre(const Fighter& f, float* x, float* z) {
-  constexpr int kHips = 4;
-  *x = (f.part_box[BOX_X_MIN][kHips] + f.part_box[BOX_X_MAX][kHips]) / 2.0f;
-  *z = (f.part_box[BOX_Z_MIN][kHips] + f.part_box[BOX_Z_MAX][kHips]) / 2.0f;
-  const int yaw = ((f.yaw % ANGLES) + ANGLES) % ANGLES;
-  if ((yaw >= 45 && yaw <= 134) || (yaw >= 225 && yaw <= 314))
-    *z = (*x - f.track_x0) / StepSinTable[yaw] * StepCosTable[yaw] + f.track_z0;
-  else
-    *x = (*z - f.track_z0) / StepCosTable[yaw] * StepSinTable[yaw] + f.track_x0;
-}
-
 }  // namespace
 
 void Draw_EffectBillboard(int effect, int slot, float size) {
@@ -148,8 +136,8 @@ void Draw_EffectFloorQuad(int effect, int slot, float size) {
 
 void Draw_FighterFloorQuad(int fighter, int slot, float size) {
   if (fighter < 0 || fighter > 1) return;
-  float cx, cz;
-  body_centre(fighters[fighter], &cx, &cz);
+  const float cx = Draw.Body_Centre[fighter][0];  // written by the placement this frame
+  const float cz = Draw.Body_Centre[fighter][2];
   const float x0 = static_cast<float>(static_cast<int>(cx - size / 2.0f));
   const float z0 = static_cast<float>(static_cast<int>(cz - size / 2.0f));
   ScreenVertex q[4];

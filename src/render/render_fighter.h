@@ -1,8 +1,9 @@
 // Fighter drawing state shared between the placement, the mesh and the attachment chains, and
 // the helpers that place a single body part.
 //
-// FighterDraw is written by the fighter placement (slots 2..21) and by the attachment chains
-// (slots 30..54); the mesh and the fight core read it.
+// FighterDraw is written by the fighter placement (slots 2..21, the centres), by the attachment
+// chains (slots 30..54) and by the flexible swing (Start_Flex, Step_Flex); the mesh, the
+// effects and the fight core read it.
 #pragma once
 #include <cstdint>
 
@@ -15,6 +16,13 @@ constexpr int LAST_CHAIN_SLOT = 54;
 struct FighterDraw {
   Mat43 WorldRot[2][PART_SLOTS];  // rotation (first nine entries) of each slot's world matrix
   Mat43 EyeMat[2][PART_SLOTS];    // world matrix followed by the camera
+  float Body_Centre[2][3];        // centre of the hips' box, slid onto the line of travel
+  float Foot_Centre[2][3];        // centre of the foot's box, when the feet are held down
+  float Part_Centre[2][3];        // the part centre last asked for by Part_Centre
+  // The flexible part's swing: amplitude left, stretch in hundredths, direction 1 or -1.
+  std::int32_t flex_amp[2];
+  std::int32_t flex_pos[2];
+  std::int32_t flex_dir[2];
 };
 extern FighterDraw Draw;
 
@@ -48,3 +56,38 @@ bool Part_PointMat(int player, int p, Mat43* out);
 // gives the point unchanged.
 void Part_Point(int player, int p, float lx, float ly, float lz, float* ox, float* oy,
                 float* oz);
+
+// ---- placement, shadow and mesh ---------------------------------------------------------
+constexpr float SHADOW_FLOOR_Y = -5.8f;    // the fight's floor for shadows
+constexpr float SHOWCASE_FLOOR_Y = -5.7f;  // the floor of the front-end showcase
+constexpr float SHADOW_LAYER_Z = -100.0f;  // shadows lie behind everything nearer than 100
+
+// Centre of body part p's box, posed alone, turned by yaw and moved to the fighter's position
+// and height without any vertical placement; stored in Draw.Part_Centre[player].
+void Part_Centre(int player, int p);
+// Places every part: world and eye matrices, part boxes, Body_Centre (and Foot_Centre when
+// the feet are held to the floor). Needs the frame's pose and View.
+void Place_Fighter(int player);
+// The fighter's flat black shadow from the boxes of the last placement (none in game mode 3).
+void Draw_Shadow(int player);
+// The textured mesh from the last placement's eye matrices.
+void Draw_Mesh(int player);
+// Placement and part boxes only, with the plain standing or crouching offset and no extra
+// turn of the head, for frames on which nothing is drawn.
+void Place_FighterOnly(int player);
+// The showcase's placement: no vertical offset, the shadow's floor at -5.7 (not drawn).
+void Place_Showcase(int player);
+// Runs down the fight's impact timer by one (each mesh, showcase and placement-only pass).
+void Run_ImpactTimer();
+// Placement with no vertical offset, boxes, and the mesh with normals, without alternate
+// faces or fading: a fighter shown off in a front-end scene.
+void Draw_Showcase(int player);
+// The fight's character pass: flexible swings, placement, shadows, meshes and chains in the
+// order the fight's state asks for, then the effect pass unless the win pose runs.
+void Draw_Fighters();
+
+// ---- the flexible part -------------------------------------------------------------------
+// Starts the swing: strength 2 gives amplitude 70, 3 gives 80, anything else 60.
+void Start_Flex(int player, int strength, int direction);
+// One frame of the swing.
+void Step_Flex(int player);

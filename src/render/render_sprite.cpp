@@ -5,6 +5,8 @@
 
 #include <cstdlib>
 
+#include "render/render_stage.h"
+
 SpriteDrawState SpriteDraw;
 
 namespace {
@@ -230,4 +232,5 @@ void Set_Brightness(std::uint16_t level) {
     SpriteDraw.Scratch_Quad[k].t = kCornerT[k];
     for (std::int16_t& c : SpriteDraw.Cycle_Colour[k]) c = static_cast<std::int16_t>(level);
   }
+  Stage_SetBrightness(level);
 }

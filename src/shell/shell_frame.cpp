@@ -4,7 +4,10 @@
 #include "fight/fight_state.h"
 #include "input/input.h"
 #include "platform/platform.h"
+#include "render/render_fighter.h"
+#include "render/render_stage.h"
 #include "render/render_state.h"
+#include "render/render_view.h"
 #include "scenes/scenes.h"
 #include "settings/settings.h"
 #include "shell/shell.h"
@@ -93,7 +96,12 @@ void Fight_Frame() {
 void Fight_Draw() {
   Pose_Fighter(0);
   Pose_Fighter(1);
-  if (!Pacer_Due()) return;  // behind schedule: simulated, not drawn
+  if (!Pacer_Due()) {  // behind schedule: simulated, not drawn; the hit tests keep their boxes
+    Set_View();
+    Place_FighterOnly(0);
+    Place_FighterOnly(1);
+    return;
+  }
   if (Shell.WhiteFrames >= 1) {
     Clear_Screen(255, 255, 255);
     Clear_Depth();
@@ -103,7 +111,10 @@ void Fight_Draw() {
   }
   // The stage covers the whole screen, so the colour buffer is not cleared.
   Clear_Depth();
+  Draw_Stage();
   DrainGauges();
+  Draw_Fighters();  // with the effect pass
+  Set_DrawMode(40);
   if (Shell.SkipPresent == 1)
     Shell.SkipPresent = 0;
   else

@@ -9,6 +9,7 @@
 #include "fight/fight_state.h"
 #include "hud/hud_screens.h"
 #include "platform/platform.h"
+#include "render/render_stage.h"
 #include "render/render_state.h"
 #include "scenes/scene_pictures.h"
 #include "scenes/scenes.h"
@@ -99,7 +100,8 @@ int Stage_Side() {
 
 void Prepare_Match() {
   opening_steps(0, kMatchCodes);
-  const int s = Stage_Side();
+  const int s = Stage_Side();  // a one-player fight is on the computer opponent's stage
+  Load_Stage(s);
   load_fighters(kMatchCodes);
   fighters[0].wins = 0;
   fighters[1].wins = 0;
@@ -109,6 +111,7 @@ void Prepare_Match() {
 
 void Prepare_Demo() {
   opening_steps(1, kDemoCodes);
+  Load_Stage(0);
   load_fighters(kDemoCodes);
   reset_round();
   fighters[0].wins = 0;

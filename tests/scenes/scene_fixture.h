@@ -9,6 +9,7 @@
 
 #include "assets/asset_image.h"
 #include "assets/model_fixture.h"
+#include "render/render_stage.h"
 #include "scenes/scene_pictures.h"
 #include "support/test_support.h"
 #include "writers/writer_3dm.h"
@@ -56,13 +57,20 @@ inline void write_set(PictureSet set, const std::string& skip = "") {
 }
 
 // What a match of select slots 0 and 9 (or 24) reads besides its pictures: the shared
-// animation, the models with their faces, and the three effect models.
+// animation, the models with their faces, the three effect models, and the stages of the
+// characters the tests put on stage (0, 9, and the demonstrations' 1 and 2).
 inline void write_match_files() {
   writers::ImageFile skin{2, 2, 3, writers::Bytes(12, 200)};
   for (const char* name : {"T.BMP", "BANDM.bmp", "BANVC1.bmp", "KNIFDM.bmp", "C6FAC12.bmp", "C2PFAC12.bmp"})
     ASSERT_TRUE(writers::Write_Image(name, skin));
   for (const char* name : {"ban.3dm", "crow.3dm", "crow2p.3dm", "FAR.3DM", "CARDFIRE.3DM", "AXE.3DM"})
     ASSERT_TRUE(writers::Write_3DM(name, harness::sample_model(1)));
+  for (int c : {0, 1, 2, 9}) {
+    const StagePictures& st = StageTable[c];
+    for (const char* f : {st.floor, st.light, st.backdrop[0], st.backdrop[1], st.backdrop[2],
+                          st.super_move})
+      write_picture(f);
+  }
   std::vector<FaKeyFrame> shared(4);
   ASSERT_TRUE(Write_FA("PRELOAD.FA", FaKind::PackedArmFree, 21, shared));
 }

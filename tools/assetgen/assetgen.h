@@ -31,6 +31,10 @@ bool Generate_Figures(const Context& ctx);
 bool Generate_EffectModels(const Context& ctx);
 // The shared motions, PRELOAD.FA and PRELOAD.TBL (assetgen_motions.cpp).
 bool Generate_Motions(const Context& ctx);
+// Every character's own animation and table files, and the opening's (assetgen_moves.cpp).
+bool Generate_Moves(const Context& ctx);
+// Every picture the scenes, stages and effects name (pictures/pic_main.cpp).
+bool Generate_Pictures(const Context& ctx);
 
 // An external command that makes `output` from `inputs`. The command runs under /bin/sh.
 // A job whose command and input contents match a cached run takes the cached output instead.

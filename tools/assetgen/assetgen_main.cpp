@@ -12,11 +12,13 @@
 namespace {
 
 constexpr gen::Generator kGenerators[] = {
-    {"figures", gen::Generate_Figures},  // 30 model rows, their pictures, 15 skeletons
-    {"sounds", gen::Generate_Sounds},    // 0..177 wave files
-    {"music", gen::Generate_Music},      // music/track02.ogg .. track17.ogg
+    {"figures", gen::Generate_Figures},             // 30 model rows, their pictures, skeletons
+    {"sounds", gen::Generate_Sounds},               // 0..177 wave files
+    {"music", gen::Generate_Music},                 // music/track02.ogg .. track17.ogg
     {"effect models", gen::Generate_EffectModels},  // FAR.3DM, CARDFIRE.3DM, AXE.3DM
-    {"motions", gen::Generate_Motions},              // PRELOAD.FA, PRELOAD.TBL
+    {"motions", gen::Generate_Motions},             // PRELOAD.FA, PRELOAD.TBL
+    {"moves", gen::Generate_Moves},        // after the motions: own moves, the opening
+    {"pictures", gen::Generate_Pictures},  // the scenes', stages' and effects' pictures
 };
 
 bool make_work_dir(gen::fs::path* out) {

@@ -2,9 +2,12 @@
 //
 //   valdrune-headless --data DIR [--frames N] [--script FILE] [--shots OUTDIR --shot-every K]
 //                     [--start fight:S0:S1 | --start demo]
-//
+//   valdrune-headless --data DIR --pose CHAR:ACTION:FRAME --out FILE.png
+//   valdrune-headless --data DIR --sheet OUTDIR
 // --start enters a two-player match of select slots S0 and S1 (0..29), or a demonstration,
-// instead of the opening.
+// instead of the opening. --pose draws character row CHAR (0..29) in frame FRAME of ACTION
+// (counted from the action's first frame); --sheet writes OUTDIR/sheet-CC.png, the key poses
+// of each character.
 #include <unistd.h>
 
 #include <cstdio>
@@ -12,6 +15,7 @@
 #include <cstring>
 
 #include "platform/headless/headless.h"
+#include "platform/headless/headless_review.h"
 #include "shell/shell.h"
 #include "shell/shell_prepare.h"
 
@@ -20,7 +24,9 @@ namespace {
 int usage() {
   std::fprintf(stderr,
                "usage: valdrune-headless --data DIR [--frames N] [--script FILE]"
-               " [--shots OUTDIR --shot-every K] [--start fight:S0:S1 | --start demo]\n");
+               " [--shots OUTDIR --shot-every K] [--start fight:S0:S1 | --start demo]\n"
+               "       valdrune-headless --data DIR --pose CHAR:ACTION:FRAME --out FILE.png\n"
+               "       valdrune-headless --data DIR --sheet OUTDIR\n");
   return 2;
 }
 
@@ -46,6 +52,9 @@ int main(int argc, char** argv) {
   const char* shots = nullptr;
   long frames = 0;
   int every = 0;
+  const char* pose = nullptr;   // review tools
+  const char* out = nullptr;
+  const char* sheet = nullptr;
   for (int i = 1; i < argc; ++i) {
     const bool has_value = i + 1 < argc;
     if (!std::strcmp(argv[i], "--data") && has_value) data = argv[++i];
@@ -54,14 +63,23 @@ int main(int argc, char** argv) {
     else if (!std::strcmp(argv[i], "--shots") && has_value) shots = argv[++i];
     else if (!std::strcmp(argv[i], "--shot-every") && has_value) every = std::atoi(argv[++i]);
     else if (!std::strcmp(argv[i], "--start") && has_value && Shell_ParseStart(argv[i + 1])) ++i;
+    else if (!std::strcmp(argv[i], "--pose") && has_value) pose = argv[++i];
+    else if (!std::strcmp(argv[i], "--out") && has_value) out = argv[++i];
+    else if (!std::strcmp(argv[i], "--sheet") && has_value) sheet = argv[++i];
     else return usage();
   }
   if (data == nullptr || frames < 0 || (shots != nullptr) != (every > 0)) return usage();
+  int row = 0, action = 0, frame = 0;
+  if (pose && (out == nullptr || sheet || !Review_ParsePose(pose, &row, &action, &frame)))
+    return usage();
+  if (out && !pose) return usage();
 
   char script_path[1100];
   char shots_path[1100];
   if (script) absolute(script, script_path, sizeof script_path);
   if (shots) absolute(shots, shots_path, sizeof shots_path);
+  char review_path[1100];
+  if (out || sheet) absolute(out ? out : sheet, review_path, sizeof review_path);
 
   if (script) {
     char err[700];
@@ -74,6 +92,8 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "valdrune-headless: cannot enter the data directory %s\n", data);
     return 2;
   }
+  if (pose) return Review_Pose(row, action, frame, review_path);
+  if (sheet) return Review_Sheets(review_path);
   Headless_SetFrameLimit(frames);
   if (shots) Headless_SetShots(shots_path, every);
   Headless_SetModeProbe(current_mode);

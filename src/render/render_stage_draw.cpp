@@ -1,0 +1,144 @@
+// The stage pass of the fight frame: the view, the super-move flash, then the arena (floor,
+// light pool, backdrop strip) or a super-move backdrop in its place.
+#include <GL/gl.h>
+
+#include "camera/camera_fight.h"
+#include "fight/fight_state.h"
+#include "render/render_effect.h"
+#include "render/render_sprite.h"
+#include "render/render_stage.h"
+#include "render/render_state.h"
+#include "render/render_view.h"
+
+namespace {
+
+constexpr int kFlashDarkFrom = 2, kFlashDarkTo = 5;
+constexpr int kFullLight = 255;
+constexpr int kSuperShadeBright = 128, kSuperShadeDim = 64;
+
+void bind_slot(std::int32_t slot) {
+  if (slot >= 0 && slot < TEXTURE_SLOTS) glBindTexture(GL_TEXTURE_2D, Textures.TextureId[slot]);
+}
+
+// One mesh, every vertex offset by (dx, 0, dz), carried by CurrentMat into `sv`, its
+// triangles clipped and emitted in one block.
+void draw_mesh(const StageMesh& mesh, ScreenVertex* sv, float dx, float dz) {
+  for (int i = 0; i < mesh.vertex_count; ++i) {
+    const StagePoint& p = mesh.v[i];
+    Mat_ApplyCurrent(p.x + dx, p.y, p.z + dz, &sv[i].x, &sv[i].y, &sv[i].z);
+    sv[i].s = p.s;
+    sv[i].t = p.t;
+  }
+  glBegin(GL_TRIANGLES);
+  for (int n = 0; n < mesh.triangle_count; ++n) {
+    const std::int32_t* t = mesh.tri[n];
+    Emit_ClippedTri(sv[t[0]], sv[t[1]], sv[t[2]]);
+  }
+  glEnd();
+}
+
+// The super-move flash: darkening by 15 a frame, three dark frames, brightening by 10.
+void step_flash() {
+  std::int32_t& state = Match.flash_state;
+  std::int32_t& light = Match.light;
+  if (state == 1) {
+    if (light > 10) light -= 15;
+    if (light < 11) {
+      light = 0;
+      state = kFlashDarkFrom;
+    }
+  } else if (state >= kFlashDarkFrom && state < kFlashDarkTo) {
+    if (++state == kFlashDarkTo) state = -1;
+  } else if (state == -1) {
+    if (light < kFullLight) light += 10;
+    if (light > kFullLight) {
+      light = kFullLight;
+      state = 0;
+    }
+  }
+}
+
+void draw_arena() {
+  Set_DrawMode(200);
+  Draw_Floor();
+  Set_DrawMode(8);
+  Draw_Backdrop();
+  Draw_BackdropAt(-BACKDROP_WIDTH);
+  Draw_BackdropAt(BACKDROP_WIDTH);
+  Draw_BackdropAt(-2.0f * BACKDROP_WIDTH);
+  Draw_BackdropAt(2.0f * BACKDROP_WIDTH);
+}
+
+void draw_super_picture(int sprite) {
+  Set_DrawMode(140);
+  Draw_RasterLCycle(sprite, 0, 0, 320, 240);
+}
+
+}  // namespace
+
+void Floor_TileCentres(float look, float out[3]) {
+  const int t = static_cast<int>(look / FLOOR_TILE);
+  for (int k = 0; k < 3; ++k) out[k] = static_cast<float>(t - 1 + k) * FLOOR_TILE;
+}
+
+void Draw_Floor() {
+  const FightCameraState& cam = FightCamera;
+  float xs[3], zs[3];
+  Floor_TileCentres(cam.look_x, xs);
+  Floor_TileCentres(cam.look_z, zs);
+  CurrentMat = View;  // translation by zero, then the view
+  bind_slot(Stage.floor_slot);
+  for (float z : zs)
+    for (float x : xs) draw_mesh(Stage.floor, Stage.floor_sv, x, z);
+  if (Stage.Stage_Light == 1) {
+    Set_DrawMode(201);
+    Draw_LightPool();
+  }
+}
+
+void Draw_LightPool() {
+  const FightCameraState& cam = FightCamera;
+  const float s = Shake_Step();
+  Mat_RotX(&CurrentMat, Wrap_Angle(359 - cam.pitch));
+  float tx, ty, tz;
+  Mat_Apply(&CurrentMat, -cam.look_x, -(cam.look_y + s), -cam.look_z, &tx, &ty, &tz);
+  CurrentMat.m[9] = tx;
+  CurrentMat.m[10] = ty;
+  CurrentMat.m[11] = tz + 2.0f * cam.distance;
+  bind_slot(Stage.light_slot);
+  Blend_Normal();
+  draw_mesh(Stage.light, Stage.light_sv, cam.look_x, cam.look_z);
+}
+
+void Draw_SmallFloor() {
+  SpriteDraw.Layer_Z = STAGE_LAYER_Z;
+  CurrentMat = View;
+  bind_slot(Stage.floor_slot);
+  draw_mesh(Stage.floor, Stage.floor_sv, 0.0f, 0.0f);
+}
+
+void Draw_Stage() {
+  Set_View();
+  step_flash();
+  // The floor and backdrop go in at the layer behind everything nearer than 100 units.
+  const float layer = SpriteDraw.Layer_Z;
+  SpriteDraw.Layer_Z = STAGE_LAYER_Z;
+  const Fighter& f0 = fighters[0];
+  const Fighter& f1 = fighters[1];
+  if (Match.reverse[0]) {
+    draw_super_picture(SUPER_SPRITE_1);
+  } else if (Match.reverse[1]) {
+    draw_super_picture(SUPER_SPRITE_0);
+  } else if (f0.super_mode || f1.super_mode) {
+    Set_DrawMode(141);
+    Blend_Normal();
+    const int level = frame_count % 16 == 0 ? kSuperShadeBright : kSuperShadeDim;
+    Draw_RasterLShade(SUPER_SHADE_SPRITE, 0, 0, 320, 240, static_cast<std::uint16_t>(level));
+  } else if (!f0.super_finish && !f1.super_finish) {
+    draw_arena();
+  } else {
+    draw_super_picture(f0.super_finish ? SUPER_SPRITE_0 : SUPER_SPRITE_1);
+  }
+  SpriteDraw.Layer_Z = layer;
+  Run_GlowRing();
+}

@@ -1,0 +1,216 @@
+// Every character's own moves and the opening, generated and read back through the game's
+// own loaders after the shared frames.
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "assetgen.h"
+#include "assets/asset_anim.h"
+#include "assets/asset_table.h"
+#include "camera/camera_path.h"
+#include "fight/fight_moves.h"
+#include "fight/fight_state.h"
+#include "figures/fig_figure.h"
+#include "figures/fig_roster.h"
+#include "moves/mv_roster.h"
+#include "support/test_support.h"
+#include "writers/writer_bsc.h"
+#include "writers/writer_fa.h"
+#include "writers/writer_tbl.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+bool is_special(int a) {
+  return (a >= 190 && a <= 208) || (a >= 220 && a <= 238) || (a >= 266 && a <= 284) ||
+         (a >= 299 && a <= 316) || (a >= 500 && a <= 519);
+}
+bool is_hold(int a) { return a >= 340 && a <= 479; }
+
+// The actions a character enters through its own files: its command slots and chains, the
+// holds of its moves, every held reaction, its stance-23 attacks and its victory poses.
+std::set<int> own_actions(int c) {
+  std::set<int> out = {241, 242, 12, 13};
+  const int row = c == 14 ? 14 : c;
+  for (int a : MoveTables.Special_Table[row])
+    if (a != NO_MOVE) out.insert(a);
+  for (const ChainLink& l : MoveTables.Chain_Table[row]) {
+    if (l.running == NO_LINK) continue;
+    if (is_special(l.next) || is_hold(l.next)) out.insert(l.next);
+    if (is_special(l.running) || is_hold(l.running)) out.insert(l.running);
+  }
+  for (const HitGrab& g : HitGrab_Table)
+    if ((g.characters & (1u << c)) && out.count(g.action)) out.insert(g.hold);
+  for (const CommandThrow& t : CommandThrow_Table)
+    if (t.character == c) out.insert(t.hold);
+  for (int i = 0; i < mv::Mv_HoldPairCount(); ++i) out.insert(mv::Mv_HoldPair(i).held);
+  return out;
+}
+
+bool armed(int part, int hit) { return part >= 2 && hit != 5 && hit != 17 && (hit < 38 || hit > 40); }
+
+class OwnMoves : public test::TempDirTest {
+ protected:
+  void SetUp() override {
+    TempDirTest::SetUp();
+    build_move_tables();
+    gen::Context ctx{fs::current_path(), fs::current_path() / "work", {}};
+    fs::create_directories(ctx.work);
+    ASSERT_TRUE(gen::Generate_Moves(ctx));
+    Write_Shared();
+    for (int c = 0; c < fig::kCharacters; ++c) {
+      fig::Skeleton s;
+      fig::Fig_BuildSkeleton(c, s);
+      std::vector<BscJoint> joints;
+      for (int p = 2; p <= s.last_part; ++p) joints.push_back({s.joint[p][0], s.joint[p][1], s.joint[p][2]});
+      ASSERT_TRUE(Write_BSC(fig::Fig_SkeletonFile(c), joints));
+    }
+  }
+  // The generated shared files when the data set has them, else a small stand-in.
+  void Write_Shared() {
+    const fs::path data = VALDRUNE_DATA_DIR;
+    std::error_code ec;
+    real_shared_ = fs::exists(data / "PRELOAD.FA", ec) && fs::exists(data / "PRELOAD.TBL", ec);
+    if (real_shared_) {
+      fs::copy_file(data / "PRELOAD.FA", "PRELOAD.FA");
+      fs::copy_file(data / "PRELOAD.TBL", "PRELOAD.TBL");
+      return;
+    }
+    std::vector<FaKeyFrame> keys(40);
+    ASSERT_TRUE(Write_FA("PRELOAD.FA", FaKind::PackedArmFree, 21, keys));
+    TblFile shared;
+    shared.frames.resize(3000);
+    for (int a = 0; a < 600; ++a) shared.act[a] = {1, 30};
+    ASSERT_TRUE(Write_TBL("PRELOAD.TBL", shared));
+  }
+  // Loads character c (or an opening side's files) as player 0.
+  void Load(const char* anim, const char* skeleton, const char* table) {
+    ASSERT_TRUE(Load_PreloadFA("PRELOAD.FA"));
+    ASSERT_TRUE(Load_FA(anim, skeleton, 0));
+    ASSERT_TRUE(Load_PreloadTBL("PRELOAD.TBL", 0));
+    ASSERT_TRUE(Load_TBL(table, 0));
+  }
+  void Load_Character(int c) {
+    std::string anim = fig::Fig_AnimFile(c);
+    Load(anim.c_str(), fig::Fig_SkeletonFile(c), (anim.substr(0, anim.find('.')) + ".tbl").c_str());
+  }
+  bool real_shared_ = false;
+};
+
+TEST_F(OwnMoves, EveryActionACharacterEntersHasItsOwnFramesWithinTheBudgets) {
+  for (int c = 0; c < fig::kCharacters; ++c) {
+    SCOPED_TRACE(c);
+    Load_Character(c);
+    const Fighter& f = fighters[0];
+    const int S = f.last_shared_frame, K = f.last_shared_key;
+    EXPECT_LE(Anim.char_keys[0], 2500);
+    int last = S;
+    for (int a : own_actions(c)) {
+      ASSERT_GT(f.act_first[a], S) << "action " << a << " plays shared frames";
+      ASSERT_LE(f.act_first[a], f.act_last[a]) << "action " << a;
+      last = std::max(last, f.act_last[a]);
+      for (int fr = f.act_first[a]; fr <= f.act_last[a]; ++fr)
+        ASSERT_TRUE(f.frame_key[fr] > K && f.frame_key[fr] <= K + Anim.char_keys[0]) << a << " frame " << fr;
+      if (f.act_win_last[a] != 0) {
+        EXPECT_GE(f.act_win_first[a], f.act_first[a]) << a;
+        EXPECT_LE(f.act_win_last[a], f.act_last[a]) << a;
+      }
+    }
+    EXPECT_LE(last + 2, MAX_FRAMES);
+    if (real_shared_) {  // the shared moves the fight, the tables and the computer start
+      for (int a : {0, 1, 2, 3, 4, 7, 8, 9, 21, 22, 23, 24, 30, 31, 32, 35, 37, 40, 50, 51, 56, 57, 80, 81, 116,
+                    117, 150, 170, 180, 181, 188, 189, 210, 211, 216, 217, 240, 250, 290, 331, 366, 436, 597, 598,
+                    599})
+        EXPECT_GE(f.act_first[a], 1) << "shared action " << a;
+    }
+  }
+}
+
+TEST_F(OwnMoves, AttacksStrikeProjectilesLaunchAndHoldsStayInStep) {
+  std::vector<int> hold_length(1000, -1), held_length(1000, -1);
+  for (int c = 0; c < fig::kCharacters; ++c) {
+    SCOPED_TRACE(c);
+    Load_Character(c);
+    const Fighter& f = fighters[0];
+    for (int a : own_actions(c)) {
+      bool strikes = false;
+      int projectile = 0;
+      for (int fr = f.act_first[a]; fr <= f.act_last[a]; ++fr) {
+        strikes = strikes || armed(f.frame_part[fr], f.frame_hit[fr]);
+        int kind = f.frame_part[fr] >= 2 ? f.frame_hit[fr] % 100 : 0;
+        if (kind == 24 || kind == 25 || kind == 42 || kind == 43) projectile = kind;
+      }
+      if (is_special(a) || a == 241 || a == 242) {
+        EXPECT_TRUE(strikes) << "action " << a << " never strikes";
+      } else {
+        EXPECT_FALSE(strikes) << "action " << a << " strikes";  // holds and victory poses
+      }
+      EXPECT_EQ(projectile, mv::Mv_ProjectileKind(c, a)) << "action " << a;
+      const int length = f.act_last[a] - f.act_first[a];
+      std::vector<int>& seen = a >= 410 ? held_length : hold_length;
+      if (is_hold(a)) {
+        if (seen[a] < 0) seen[a] = length;
+        EXPECT_EQ(seen[a], length) << "action " << a << " differs between characters";
+      }
+    }
+  }
+  const int projectile_moves[][3] = {{1, 190, 24}, {6, 190, 42}, {11, 190, 24}, {13, 194, 24}, {2, 201, 25}};
+  for (const auto& p : projectile_moves) EXPECT_EQ(mv::Mv_ProjectileKind(p[0], p[1]), p[2]) << p[0];
+  for (int i = 0; i < mv::Mv_HoldPairCount(); ++i) {
+    const mv::HoldPair& p = mv::Mv_HoldPair(i);
+    EXPECT_GE(hold_length[p.hold], 0) << p.hold << " is nobody's hold";
+    EXPECT_EQ(hold_length[p.hold], held_length[p.held]) << p.hold << " and " << p.held;
+  }
+}
+
+// Turns (rotation entries) are the same on every skeleton, so equal turn sequences mean the
+// same move.
+TEST_F(OwnMoves, NoTwoCharactersShareASpecialMove) {
+  std::vector<std::vector<std::vector<std::int16_t>>> moves(fig::kCharacters);
+  for (int c = 0; c < fig::kCharacters; ++c) {
+    Load_Character(c);
+    const Fighter& f = fighters[0];
+    const int K = f.last_shared_key;
+    for (int a : own_actions(c)) {
+      if (!is_special(a)) continue;
+      std::vector<std::int16_t> turns;
+      for (int fr = f.act_first[a]; fr <= f.act_last[a]; ++fr)
+        for (int e = 0; e < 9; ++e) turns.push_back(Anim.CharKeys[0][f.frame_key[fr] - K - 1][3 - 2][e]);
+      moves[c].push_back(turns);
+    }
+  }
+  for (int c = 0; c < fig::kCharacters; ++c)
+    for (int d = c + 1; d < fig::kCharacters; ++d)
+      for (const auto& m : moves[c])
+        for (const auto& n : moves[d]) ASSERT_NE(m, n) << "characters " << c << " and " << d;
+}
+
+TEST_F(OwnMoves, TheOpeningPlaysItsWholeScriptWithoutBlows) {
+  for (int side = 0; side < 2; ++side) {
+    SCOPED_TRACE(side);
+    if (side == 0) Load("OPEN_BAN.FA", "BAN.BSC", "OPEN_BAN.TBL");
+    else Load("OPEN_KNI.FX", "CROW.BSC", "OPEN_KNI.TBL");
+    const Fighter& f = fighters[0];
+    EXPECT_EQ(f.act_first[0], f.last_shared_frame + 2);
+    const int length = f.act_last[0] - f.act_first[0] + 1;
+    EXPECT_GE(length, 1250);
+    EXPECT_LE(length, CAMERA_PATH_FRAMES);
+    for (int fr = f.act_first[0]; fr <= f.act_last[0]; ++fr) ASSERT_LT(f.frame_part[fr], 2) << fr;
+  }
+  ASSERT_EQ(LoadCameraPath("OPEN_POS.CAM", 1, CAMERA_PATH_EYE), 1);
+  ASSERT_EQ(LoadCameraPath("OPEN_POI.CAM", 1, CAMERA_PATH_LOOK_AT), 1);
+  const CameraPathRecord& path = CameraPath[1];
+  EXPECT_EQ(path.frame_count, fighters[0].act_last[0] - fighters[0].act_first[0] + 1);
+  // The eye keeps its distance from the fighter it circles and never enters the body.
+  for (int k = 0; k < path.frame_count; ++k) {
+    float dx = path.x[k][1] - path.x[k][0], dz = path.z[k][1] - path.z[k][0];
+    ASSERT_GT(dx * dx + dz * dz, 4.0f * 4.0f) << k;
+  }
+}
+
+}  // namespace

@@ -1,0 +1,333 @@
+// Each character's moves as rows: which kind of move an action is, the hits it deals and
+// whether it is done with the other side of the body. Hit codes are class x 100 + kind: kind
+// 35 multi-hit rush blows, 20 launchers, 8 and 11 high blows, 12 heavy low blows, 10 heavy
+// blows, 24/25/42 projectiles, 31/32 unblockable finishers; class 4 keeps a super move's owner
+// from being struck out of it.
+#include "moves/mv_roster.h"
+
+#include <cmath>
+#include <deque>
+
+#include "fight/fight_moves.h"
+#include "moves/mv_arch.h"
+#include "moves/mv_holds.h"
+#include "moves/mv_pose.h"
+
+namespace mv {
+namespace {
+
+using A = Arch;
+
+// How a character moves: its tempo, how far its poses go, whether it strikes with a weapon.
+// No two characters share a power, so no two characters' moves are the same.
+struct Style {
+  float speed;  // frames x speed: below 1 quicker
+  float power;  // swing of every pose away from the stance
+  bool weapon;  // cuts land with the weapon (part 19)
+  Arch win1, win2;
+};
+
+// clang-format off
+constexpr Style kStyles[15] = {
+    {1.00f, 1.00f, false, A::VictoryFist,  A::VictoryBow},    // 0
+    {0.85f, 0.95f, false, A::VictoryBow,   A::VictoryFist},   // 1
+    {1.00f, 1.05f, false, A::VictoryArms,  A::VictoryFist},   // 2
+    {0.90f, 0.97f, false, A::VictoryBow,   A::VictoryArms},   // 3
+    {1.15f, 1.15f, false, A::VictoryArms,  A::VictoryFist},   // 4
+    {0.90f, 0.93f, true,  A::VictoryBlade, A::VictoryBow},    // 5
+    {1.05f, 0.98f, true,  A::VictoryBlade, A::VictoryArms},   // 6
+    {0.95f, 1.02f, false, A::VictoryFist,  A::VictoryArms},   // 7
+    {1.20f, 1.10f, false, A::VictoryArms,  A::VictoryBow},    // 8
+    {0.85f, 1.03f, true,  A::VictoryBlade, A::VictoryFist},   // 9
+    {0.90f, 1.12f, false, A::VictoryFist,  A::VictoryBow},    // 10
+    {1.00f, 1.09f, false, A::VictoryArms,  A::VictoryBow},    // 11
+    {0.95f, 1.07f, false, A::VictoryBow,   A::VictoryFist},   // 12
+    {1.10f, 1.18f, true,  A::VictoryBlade, A::VictoryArms},   // 13
+    {1.05f, 1.20f, false, A::VictoryArms,  A::VictoryFist},   // 14
+};
+// clang-format on
+
+struct Row {
+  std::int16_t action;
+  Arch arch;
+  std::int16_t main, finish;
+  bool mirror;
+};
+constexpr int kMaxRows = 20;
+
+// clang-format off
+constexpr Row kRows[15][kMaxRows] = {
+    {{190, A::Straight, 10, 0, false}, {191, A::SuperRush, 435, 432, false}, {192, A::FlyingKick, 8, 0, false},
+     {197, A::SuperGrab, 410, 0, false}, {220, A::Grab, 10, 0, true}, {221, A::Charge, 410, 0, false},
+     {266, A::SuperSpin, 411, 431, false}, {267, A::SpinKick, 11, 0, false}, {273, A::SuperGrab, 410, 0, true},
+     {274, A::Grab, 12, 0, false}, {305, A::Rush, 35, 10, false}, {306, A::Uppercut, 20, 0, false},
+     {307, A::HeelDrop, 11, 0, false}, {500, A::SuperRush, 435, 431, true}, {510, A::SuperSpin, 411, 431, true}},  // 0
+    {{190, A::SuperPalms, 424, 0, false}, {192, A::TwinKick, 4, 8, false}, {201, A::FlyingKick, 8, 0, true},
+     {226, A::SpinKick, 11, 0, false}, {227, A::SuperSpin, 411, 431, false}, {228, A::Sweep, 12, 0, false},
+     {266, A::SuperRush, 435, 432, true}, {268, A::Backfist, 8, 0, false}, {270, A::FlyingKnee, 10, 0, false},
+     {271, A::HeelDrop, 11, 0, false}, {272, A::TwinKick, 4, 8, true}, {305, A::Rush, 35, 10, false},
+     {306, A::SuperSpin, 411, 431, true}},  // 1
+    {{190, A::Straight, 10, 0, true}, {191, A::Uppercut, 20, 0, false}, {192, A::Charge, 10, 0, false},
+     {193, A::FlyingKick, 8, 0, false}, {197, A::SuperGrab, 410, 0, false}, {200, A::Backfist, 8, 0, false},
+     {201, A::Palms, 25, 0, false}, {226, A::Sweep, 12, 0, false}, {266, A::SpinKick, 11, 0, true},
+     {268, A::SuperRush, 435, 432, false}, {269, A::SuperSpin, 411, 431, false}, {305, A::Rush, 35, 10, true},
+     {306, A::HeelDrop, 11, 0, false}, {307, A::TwinKick, 4, 8, false}},  // 2
+    {{190, A::SpinKick, 11, 0, false}, {191, A::Sweep, 12, 0, false}, {192, A::Straight, 10, 0, false},
+     {193, A::SuperSpin, 411, 431, false}, {195, A::SuperRush, 435, 432, false}, {196, A::FlyingKick, 8, 0, false},
+     {226, A::TwinKick, 4, 8, false}, {227, A::HeelDrop, 11, 0, true}, {228, A::Backfist, 8, 0, false},
+     {266, A::Rush, 35, 10, false}, {267, A::Uppercut, 20, 0, false}, {271, A::SuperSpin, 411, 431, true},
+     {299, A::Charge, 410, 0, false}},  // 3
+    {{190, A::Straight, 10, 0, false}, {191, A::Charge, 10, 0, false}, {192, A::Uppercut, 20, 0, false},
+     {193, A::HeelDrop, 11, 0, false}, {194, A::FlyingKnee, 10, 0, false}, {195, A::TwinKick, 4, 8, false},
+     {226, A::SuperSpin, 411, 431, false}, {227, A::SuperRush, 435, 432, false}, {266, A::Rush, 35, 10, false},
+     {267, A::Backfist, 8, 0, true}, {268, A::Sweep, 12, 0, false}, {269, A::SpinKick, 11, 0, false},
+     {270, A::FlyingKick, 8, 0, false}, {273, A::SuperGrab, 410, 0, false}, {274, A::SuperGrab, 412, 0, true}},  // 4
+    {{190, A::Blades, 7, 10, false}, {191, A::SuperBlades, 407, 431, false}, {192, A::SpinKick, 11, 0, false},
+     {193, A::Sweep, 12, 0, true}, {194, A::FlyingKick, 8, 0, false}, {195, A::TwinKick, 4, 8, false},
+     {196, A::HeelDrop, 11, 0, false}, {226, A::Backfist, 8, 0, false}, {227, A::SuperSpin, 411, 431, false},
+     {266, A::Blades, 8, 12, false}, {267, A::SuperRush, 435, 431, false}, {268, A::Straight, 10, 0, false},
+     {269, A::Uppercut, 20, 0, false}, {270, A::Rush, 35, 10, false}, {271, A::FlyingKnee, 10, 0, false},
+     {272, A::FlyingKick, 8, 0, true}, {305, A::Charge, 10, 0, false}, {306, A::Uppercut, 20, 0, true},
+     {307, A::SuperBlades, 407, 432, false}},  // 5
+    {{190, A::Throw, 42, 0, false}, {191, A::SuperBlades, 407, 431, false}, {192, A::SuperSpin, 411, 431, false},
+     {226, A::Blades, 7, 10, false}, {227, A::SuperRush, 435, 432, false}, {266, A::SpinKick, 11, 0, false},
+     {267, A::Sweep, 12, 0, false}, {268, A::Backfist, 8, 0, false}, {269, A::SuperPalms, 431, 0, false}},  // 6
+    {{190, A::Rush, 35, 10, false}, {191, A::Straight, 10, 0, false}, {192, A::FlyingKick, 8, 0, false},
+     {193, A::Uppercut, 20, 0, false}, {194, A::FlyingKnee, 10, 0, false}, {196, A::TwinKick, 4, 8, false},
+     {197, A::Grab, 10, 0, false}, {226, A::SuperSpin, 411, 431, true}, {266, A::SpinKick, 11, 0, true},
+     {267, A::Backfist, 8, 0, false}, {268, A::HeelDrop, 11, 0, false}, {269, A::Sweep, 12, 0, false},
+     {270, A::Charge, 10, 0, false}, {273, A::SuperGrab, 410, 0, false}, {305, A::Blades, 7, 10, false}},  // 7
+    {{192, A::Charge, 10, 0, false}, {197, A::SuperGrab, 410, 0, false}, {198, A::Grab, 410, 0, true},
+     {226, A::Straight, 10, 0, false}, {227, A::Rush, 35, 10, false}, {228, A::Uppercut, 20, 0, false},
+     {266, A::SuperRush, 435, 432, false}, {273, A::SuperGrab, 410, 0, true}, {305, A::HeelDrop, 11, 0, false},
+     {306, A::FlyingKnee, 10, 0, false}, {307, A::Sweep, 12, 0, false}},  // 8
+    {{190, A::Blades, 7, 10, false}, {191, A::SpinKick, 11, 0, false}, {197, A::SuperGrab, 410, 0, false},
+     {220, A::Grab, 10, 0, false}, {221, A::SuperGrab, 410, 0, true}, {266, A::Backfist, 8, 0, false},
+     {267, A::Blades, 8, 12, false}, {268, A::FlyingKick, 8, 0, false}, {269, A::SuperBlades, 407, 432, false},
+     {270, A::Sweep, 12, 0, false}, {271, A::SuperSpin, 411, 431, false}, {305, A::Rush, 35, 10, false},
+     {306, A::Uppercut, 20, 0, false}, {307, A::TwinKick, 4, 8, false}},  // 9
+    {{190, A::TwinKick, 4, 8, false}, {191, A::SpinKick, 11, 0, true}, {192, A::Sweep, 12, 0, true},
+     {193, A::SuperSpin, 411, 431, false}, {195, A::SuperRush, 435, 432, true}, {196, A::FlyingKnee, 10, 0, false},
+     {226, A::HeelDrop, 11, 0, false}, {227, A::Straight, 10, 0, false}, {228, A::Uppercut, 20, 0, false},
+     {266, A::Rush, 35, 10, true}, {267, A::Backfist, 8, 0, false}, {268, A::Charge, 10, 0, false},
+     {269, A::FlyingKick, 8, 0, false}, {270, A::HeelDrop, 11, 0, true}, {272, A::Blades, 7, 10, false},
+     {273, A::SuperGrab, 410, 0, false}, {305, A::SuperSpin, 411, 432, true}},  // 10
+    {{190, A::Palms, 24, 0, false}, {191, A::Uppercut, 20, 0, true}, {193, A::SuperRush, 435, 431, false},
+     {194, A::FlyingKick, 8, 0, false}, {195, A::SuperSpin, 411, 432, false}, {196, A::SuperRush, 435, 431, true},
+     {200, A::Straight, 10, 0, true}, {266, A::Rush, 35, 10, false}, {267, A::SpinKick, 11, 0, true},
+     {268, A::HeelDrop, 11, 0, false}},  // 11
+    {{190, A::Backfist, 8, 0, false}, {191, A::SuperRush, 435, 432, false}, {192, A::Sweep, 12, 0, false},
+     {197, A::SuperGrab, 410, 0, false}, {220, A::Grab, 10, 0, false}, {221, A::SuperGrab, 410, 0, true},
+     {266, A::SpinKick, 11, 0, false}, {267, A::TwinKick, 4, 8, false}, {268, A::Straight, 10, 0, false},
+     {270, A::FlyingKnee, 10, 0, false}, {271, A::FlyingKick, 8, 0, true}, {272, A::HeelDrop, 11, 0, false},
+     {273, A::SuperGrab, 412, 0, false}, {305, A::Rush, 35, 10, false}, {306, A::SuperSpin, 411, 431, false},
+     {500, A::SuperRush, 435, 431, true}},  // 12
+    {{190, A::Blades, 8, 12, false}, {191, A::Charge, 10, 0, false}, {192, A::HeelDrop, 11, 0, false},
+     {193, A::Uppercut, 20, 0, false}, {194, A::Throw, 24, 0, false}, {195, A::SuperBlades, 407, 432, false},
+     {266, A::Rush, 35, 10, false}, {267, A::Straight, 10, 0, false}, {268, A::SpinKick, 11, 0, false},
+     {271, A::SuperSpin, 411, 431, false}},  // 13
+    {{193, A::FlyingKnee, 10, 0, true}},  // 14: character 0's moves, and one of its own
+};
+// clang-format on
+
+// Stable storage for the poses the moves point at.
+std::deque<mot::Pose>& Pose_Store() {
+  static std::deque<mot::Pose> store;
+  return store;
+}
+const mot::Pose* Keep(const mot::Pose& p) {
+  Pose_Store().push_back(p);
+  return &Pose_Store().back();
+}
+
+int Part_Of(Limb limb, bool mirror, const Style& st) {
+  switch (limb) {
+    case Limb::LeadHand: return mirror ? 7 : 13;
+    case Limb::RearHand: return mirror ? 13 : 7;
+    case Limb::LeadFoot: return mirror ? 10 : 16;
+    case Limb::RearFoot: return mirror ? 16 : 10;
+    case Limb::RearKnee: return mirror ? 15 : 9;
+    case Limb::Weapon: return st.weapon ? 19 : 7;
+    case Limb::Body: return 3;
+    case Limb::None: break;
+  }
+  return 0;
+}
+
+// The link window closes at the end of the first link beat (where a chained move may start);
+// later beats carry no link mark.
+void Set_Window(Move& mv) {
+  int frame = 0;
+  for (int i = 0; i < mv.motion.phase_count; ++i) {
+    mot::Phase& ph = mv.motion.phases[i];
+    frame += ph.frames;
+    if (ph.link && mv.window < 0) mv.window = frame;  // frames count from 1 within the move
+    else ph.link = false;
+  }
+}
+
+// A linked start skips the wind-up, but never reaches the first strike.
+int Entry_Of(const mot::Motion& m, int wanted) {
+  int frame = 0;
+  for (int i = 0; i < m.phase_count; ++i) {
+    if (m.phases[i].strike_part >= 2) return std::min(wanted, std::max(0, frame - 1));
+    frame += m.phases[i].frames;
+  }
+  return std::min(wanted, std::max(0, frame - 1));
+}
+
+Move Build_Move(int action, const Style& st, const Row& row) {
+  const ArchDef& d = Arch_Def(row.arch);
+  const bool blades = row.arch == Arch::Blades || row.arch == Arch::SuperBlades || row.arch == Arch::VictoryBlade;
+  const bool mirror = row.mirror && !(blades && st.weapon);
+  const mot::Pose& stance = Arch_Stance(d.low_stance);
+  std::vector<const mot::Pose*> poses;
+  const bool victory = row.arch >= Arch::VictoryFist;
+  for (const mot::Pose& p : d.poses) {
+    mot::Pose q = victory ? p : Pose_Scale(stance, p, st.power);
+    poses.push_back(Keep(mirror ? Pose_Mirror(q) : q));
+  }
+  Move mv;
+  mv.action = action;
+  mv.motion.name = d.name;
+  mv.motion.action = action;
+  mv.motion.start = &stance;
+  int frame = 0;
+  for (int i = 0; i < d.beat_count && i < mot::kMaxPhases; ++i) {
+    const Beat& b = d.beats[i];
+    mot::Phase& ph = mv.motion.phases[mv.motion.phase_count++];
+    ph.pose = b.pose < 0 ? &stance : poses[b.pose];
+    ph.frames = b.timed ? std::max(1, static_cast<int>(std::lround(b.frames * st.speed))) : b.frames;
+    if (b.limb != Limb::None) ph.frames = std::max(2, ph.frames);
+    ph.ease = b.ease;
+    ph.strike_part = Part_Of(b.limb, mirror, st);
+    ph.hit = b.hit == 1 ? row.main : (b.hit == 2 ? row.finish : 0);
+    ph.cue = b.cue;
+    ph.link = b.link;
+    ph.travel = {0, b.up, b.forward};
+    frame += ph.frames;
+    if (b.hit == 3) mv.marks.push_back({frame, 0, 1});  // a foot settles
+  }
+  mv.entry = Entry_Of(mv.motion, static_cast<int>(std::lround(d.entry * st.speed)));
+  Set_Window(mv);
+  return mv;
+}
+
+// One side of a hold script as a move. The attacker's side takes the character's style; the
+// defender's side is the same for every character.
+Move Build_Hold(int action, HoldScript script, bool attacker, const Style& st) {
+  const HoldDef& d = Hold_Def(script);
+  const mot::Pose& stance = Arch_Stance(false);
+  Move mv;
+  mv.action = action;
+  mv.motion.name = Hold_Name(script);
+  mv.motion.action = action;
+  mv.motion.start = attacker ? &stance : &Hold_VictimPose(script, 0);
+  int frame = 0;
+  for (int i = 0; i < d.beat_count && i < mot::kMaxPhases; ++i) {
+    const HoldBeat& b = d.beats[i];
+    mot::Phase& ph = mv.motion.phases[mv.motion.phase_count++];
+    if (attacker)
+      ph.pose = b.attacker_pose < 0 ? &stance : Keep(Pose_Scale(stance, Hold_AttackerPose(script, b.attacker_pose), st.power));
+    else
+      ph.pose = &Hold_VictimPose(script, b.victim_pose);
+    ph.frames = b.frames;
+    ph.ease = b.ease;
+    ph.cue = attacker ? b.attacker_cue : b.victim_cue;
+    ph.link = attacker && b.link;
+    if (!attacker) ph.travel = {0, b.victim_up, b.victim_forward};
+    frame += b.frames;
+    if (!attacker && b.floor) mv.marks.push_back({frame, 2, 5});
+  }
+  if (attacker) Set_Window(mv);
+  return mv;
+}
+
+constexpr HoldPair kHoldPairs[] = {
+    {340, 410}, {341, 411}, {342, 412}, {343, 413}, {344, 414}, {348, 418}, {349, 419}, {350, 420},
+    {351, 421}, {354, 424}, {355, 425}, {357, 427}, {360, 430}, {361, 431}, {362, 432}, {363, 433},
+    {364, 434}, {365, 435}, {367, 437}, {369, 439}, {370, 440}, {371, 441},
+};
+
+// The rows a character plays: the boss plays character 0's, then its own.
+std::vector<const Row*> Rows_Of(int character) {
+  std::vector<const Row*> out;
+  auto add = [&](int c) {
+    for (const Row& row : kRows[c]) {
+      if (row.action == 0) break;
+      out.push_back(&row);
+    }
+  };
+  if (character == 14) add(0);
+  add(character);
+  return out;
+}
+
+bool Has_Action(const std::vector<Move>& moves, int action) {
+  for (const Move& m : moves)
+    if (m.action == action) return true;
+  return false;
+}
+
+// The holds this character's moves lead into: its hit-grabs, command throws and forced stages.
+void Add_Holds(int character, const Style& st, std::vector<Move>& out) {
+  std::vector<int> holds;
+  for (const HitGrab& g : HitGrab_Table)
+    if ((g.characters & (1u << character)) && Has_Action(out, g.action)) holds.push_back(g.hold);
+  for (const CommandThrow& t : CommandThrow_Table)
+    if (t.character == character) holds.push_back(t.hold);
+  if (character == 7)
+    for (const ForcedReaction& f : ForcedReaction_Table) holds.push_back(f.hold);
+  for (int h : holds)
+    if (!Has_Action(out, h)) out.push_back(Build_Hold(h, Hold_ScriptOf(h), true, st));
+}
+
+// Every held reaction: one motion per script, shared by the held actions that play it.
+void Add_Held(const Style& st, std::vector<Move>& out) {
+  int first_of[static_cast<int>(HoldScript::Count)];
+  for (int& f : first_of) f = -1;
+  for (const HoldPair& p : kHoldPairs) {
+    HoldScript s = Hold_ScriptOf(p.hold);
+    int& first = first_of[static_cast<int>(s)];
+    Move mv = Build_Hold(p.held, s, false, st);
+    if (first >= 0) mv.share = first;
+    else first = static_cast<int>(out.size());
+    out.push_back(std::move(mv));
+  }
+}
+
+}  // namespace
+
+void Mv_CharacterMoves(int character, std::vector<Move>& out) {
+  out.clear();
+  if (character < 0 || character >= 15) return;
+  const Style& st = kStyles[character];
+  for (const Row* row : Rows_Of(character)) out.push_back(Build_Move(row->action, st, *row));
+  Add_Holds(character, st, out);
+  out.push_back(Build_Move(241, st, Row{241, Arch::LowPalm, 4, 0, false}));
+  out.push_back(Build_Move(242, st, Row{242, Arch::LowKick, 8, 0, false}));
+  out.push_back(Build_Move(12, st, Row{12, st.win1, 0, 0, false}));
+  out.push_back(Build_Move(13, st, Row{13, st.win2, 0, 0, false}));
+  Add_Held(st, out);
+}
+
+Move Mv_StyledMove(int character, int action, int arch, int main_hit, int finish_hit, bool mirror) {
+  const Style& st = kStyles[character < 0 || character >= 15 ? 0 : character];
+  Row row{static_cast<std::int16_t>(action), static_cast<Arch>(arch), static_cast<std::int16_t>(main_hit),
+          static_cast<std::int16_t>(finish_hit), mirror};
+  return Build_Move(action, st, row);
+}
+
+int Mv_ProjectileKind(int character, int action) {
+  if (character < 0 || character >= 15) return 0;
+  for (const Row* row : Rows_Of(character)) {
+    int kind = row->main % 100;
+    if (row->action == action && (kind == 24 || kind == 25 || kind == 42 || kind == 43)) return kind;
+  }
+  return 0;
+}
+
+int Mv_HoldPairCount() { return static_cast<int>(sizeof(kHoldPairs) / sizeof(kHoldPairs[0])); }
+const HoldPair& Mv_HoldPair(int index) { return kHoldPairs[index]; }
+
+}  // namespace mv
