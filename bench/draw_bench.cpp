@@ -3,6 +3,10 @@
 // finished with glFinish. Target: median under 6 ms. Also counts heap allocations made inside
 // the frame, which must stay at 0.
 //
+// BM_FightFrame and BM_StageOnly draw a scene the benchmark builds itself; BM_FullFightFrame
+// draws the generated data set's real fight (stage, fighters, fight pictures, effect models)
+// with every hit-effect, projectile and spark slot busy.
+//
 //   build/bench/draw_bench [--benchmark_repetitions=N]
 #include <benchmark/benchmark.h>
 #include <unistd.h>
@@ -15,7 +19,14 @@
 #include <new>
 #include <string>
 
+#include "assets/asset_character.h"
+#include "assets/asset_anim.h"
+#include "assets/asset_model.h"
+#include "fight/fight_state.h"
+#include "platform/headless/headless.h"
 #include "platform/platform.h"
+#include "render/render_effect.h"
+#include "scenes/scene_pictures.h"
 #include "render/render_fighter_fixture.h"
 #include "render/render_state.h"
 #include "shell/shell.h"
@@ -95,6 +106,82 @@ void BM_StageOnly(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_StageOnly)->Unit(benchmark::kMillisecond)->UseRealTime()->Repetitions(5)->ReportAggregatesOnly(true);
+
+// The generated data set's fight between characters 0 and 9 on stage 0, loaded as the match
+// preparation loads it.
+bool set_up_data_fight() {
+  if (!Plat_OpenWindow("bench") || chdir(VALDRUNE_DATA_DIR) != 0) return false;
+  Set_FixedGLState();
+  Window_Reshape(640, 480);
+  Build_SinCosTables();
+  if (!Load_PreloadFA("PRELOAD.FA")) return false;
+  Build_AngleTables();
+  Shell.GameMode = MODE_FIGHT;
+  if (!Load_FightPictures()) return false;
+  select_slot[0] = 0;
+  select_slot[1] = 9;
+  Match.character[0] = 0;
+  Match.character[1] = 9;
+  Load_Stage(0);
+  reset_match_fighters();
+  if (!Load_Character(0) || !Load_Character(1)) return false;
+  Load_3DSprite("FAR.3DM", 0);
+  Load_3DSprite("CARDFIRE.3DM", 1);
+  Load_3DSprite("AXE.3DM", 2);
+  reset_round();
+  return true;
+}
+
+// Keeps every effect slot busy: hit effects of every kind between the fighters, a projectile of
+// each model kind in flight, a burst of sparks.
+void fill_effects() {
+  for (int i = 0; i < HIT_EFFECTS; ++i)
+    if (!Effects.Hit_Effect[i].active)
+      Spawn_HitEffect(i % 2, -2.0f + 0.2f * i, 1.0f + 0.1f * i, 0.0f, i % HIT_KINDS, 0);
+  constexpr int kKinds[PROJECTILES] = {24, 42, PROJECTILE_AXE, 25};
+  for (int i = 0; i < PROJECTILES; ++i) {
+    ProjectileSlot& p = Effects.Projectile[i];
+    if (p.active) continue;
+    p = {};
+    p.active = 1;
+    p.owner = i % 2;
+    p.facing = i % 2 ? 270 : 90;
+    p.kind = kKinds[i];
+    p.hit_points = 1;
+    p.x = -3.0f + 2.0f * i;
+    p.y = 0.5f;
+    p.vx = i % 2 ? -0.1f : 0.1f;
+  }
+  if (!Effects.Sparks[0].active) Spawn_Sparks(0, 0.0f, 1.0f, 0.0f);
+}
+
+void full_fight_frame() {
+  fill_effects();
+  Pose_Fighter(0);
+  Pose_Fighter(1);
+  Clear_Depth();
+  Draw_Stage();
+  Draw_Fighters();  // with the effect pass
+  glFinish();
+}
+
+void BM_FullFightFrame(benchmark::State& state) {
+  static const bool ready = set_up_data_fight();
+  if (!ready) {
+    state.SkipWithError("no generated data set at " VALDRUNE_DATA_DIR);
+    return;
+  }
+  full_fight_frame();
+  if (const char* shot = std::getenv("DRAW_BENCH_SHOT")) {  // to look at
+    Swap_Buffers();
+    Headless_WritePng(shot);
+  }
+  const long before = Allocations.load();
+  for (auto _ : state) full_fight_frame();
+  state.counters["allocations_per_frame"] =
+      static_cast<double>(Allocations.load() - before) / static_cast<double>(state.iterations());
+}
+BENCHMARK(BM_FullFightFrame)->Unit(benchmark::kMillisecond)->UseRealTime()->Repetitions(5)->ReportAggregatesOnly(true);
 
 }  // namespace
 
