@@ -8,7 +8,10 @@
 // instead of the opening. --pose draws character row CHAR (0..29) in frame FRAME of ACTION
 // (counted from the action's first frame); --sheet writes OUTDIR/sheet-CC.png, the key poses
 // of each character.
+#include <sys/stat.h>
 #include <unistd.h>
+
+#include <cerrno>
 
 #include <cstdio>
 #include <cstdlib>
@@ -78,6 +81,10 @@ int main(int argc, char** argv) {
   char shots_path[1100];
   if (script) absolute(script, script_path, sizeof script_path);
   if (shots) absolute(shots, shots_path, sizeof shots_path);
+  if (shots && mkdir(shots_path, 0777) != 0 && errno != EEXIST) {
+    std::fprintf(stderr, "valdrune-headless: cannot make the screenshot directory %s\n", shots);
+    return 2;
+  }
   char review_path[1100];
   if (out || sheet) absolute(out ? out : sheet, review_path, sizeof review_path);
 
