@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "render/render_effect.h"
+#include "shell/shell.h"
 
 MatchState Match;
 std::int32_t frame_count = 0;
@@ -120,6 +121,7 @@ void reset_round() {
   Match.time_rank = 0;
   Match.reverse[0] = Match.reverse[1] = 0;
   Clear_Projectiles();  // body-part effects went with each fighter's reset
+  Shell.SkipPresent = 1;  // the round's first picture is drawn but not shown
 }
 
 void DrainGauges() {
