@@ -43,16 +43,20 @@ float Mot_SoleDrop(const Joints& j, const PartMatrix m[22]) {
   } kFlesh[] = {{2, 0.55f}, {3, 0.6f}, {8, 0.45f}, {14, 0.45f}, {9, 0.35f}, {15, 0.35f},
                 {5, 0.3f},  {11, 0.3f}, {6, 0.25f}, {12, 0.25f}, {7, 0.2f}, {13, 0.2f}};
   for (const auto& f : kFlesh) low = std::min(low, Mot_PosedJoint(j, m, f.part).y - f.flesh);
-  // The crown: a head length above the neck along the head's own up axis.
-  Vec3 up = Apply(m[2].r, Vec3{0, 1.3f, 0});
-  low = std::min(low, Mot_PosedJoint(j, m, 2).y + up.y - 0.3f);
+  // The head: crown, back of the skull and face, measured from the neck in the head's own axes.
+  const float neck = Mot_PosedJoint(j, m, 2).y;
+  for (Vec3 p : {Vec3{0, 1.3f, 0}, Vec3{0, 0.7f, -0.6f}, Vec3{0, 0.7f, 0.55f}})
+    low = std::min(low, neck + Apply(m[2].r, p).y - 0.3f);
+  // The fingers, a hand's length past each wrist.
+  for (int hand : {7, 13}) low = std::min(low, Mot_PosedJoint(j, m, hand).y + Apply(m[hand].r, Vec3{0, -0.8f, 0}).y - 0.15f);
   return low;
 }
 
 namespace {
 
-void Bake_Pose(const Motion& mo, const Joints& j, const Pose& pose, BakedFrame& f, float rest_sole) {
-  PartMatrix m[22];
+// Solves and packs one frame; `m` keeps the solved parts.
+void Bake_Pose(const Motion& mo, const Joints& j, const Pose& pose, BakedFrame& f, float rest_sole,
+               PartMatrix m[22]) {
   Pose p = pose;
   if (mo.grounded) {
     Mot_Solve(j, p, m);
@@ -74,16 +78,30 @@ void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out) {
   float rest_sole = j.at[10].y - 0.42f;
   const Pose* from = mo.start;
   Vec3 travelled{};
+  PartMatrix m[22];
+  {
+    BakedFrame start{};
+    Bake_Pose(mo, j, *mo.start, start, rest_sole, m);
+  }
   for (int i = 0; i < mo.phase_count; ++i) {
     const Phase& ph = mo.phases[i];
     int n = std::max(1, ph.frames);
     std::size_t first = out.size();
+    // A planted foot keeps the ground spot it had on the frame before the phase.
+    const bool planted = ph.plant == 10 || ph.plant == 16;
+    Vec3 spot{}, shift{};
+    if (planted) spot = Mot_PosedJoint(j, m, ph.plant) + (out.empty() ? Vec3{} : out.back().offset);
     for (int s = 1; s <= n; ++s) {
       Pose p;
       Mot_Blend(*from, *ph.pose, Mot_Ease(ph.ease, s, n), p);
       BakedFrame bf{};
-      Bake_Pose(mo, j, p, bf, rest_sole);
+      Bake_Pose(mo, j, p, bf, rest_sole, m);
       bf.offset = travelled + ph.travel * Mot_Ease(Ease::InOut, s, n);
+      if (planted) {
+        Vec3 now = Mot_PosedJoint(j, m, ph.plant) + bf.offset;
+        shift = {spot.x - now.x, 0, spot.z - now.z};
+        bf.offset = bf.offset + shift;
+      }
       float t = static_cast<float>(s) / n;
       bf.offset.y += ph.arc * 4.0f * t * (1.0f - t);
       if (ph.link) bf.part = 1;
@@ -105,7 +123,7 @@ void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out) {
       if (ph.strike_part >= 2 && first > 0 && out[first - 1].part <= 1) at = first - 1;
       if (out[at].part <= 1) out[at].part = static_cast<std::int16_t>(-1 - ph.cue);
     }
-    travelled = travelled + ph.travel;
+    travelled = travelled + ph.travel + shift;
     from = ph.pose;
   }
 }

@@ -28,6 +28,7 @@ struct Phase {
   float arc = 0;     // the body rises this high at the phase's middle and comes back down
   bool impact = false;  // the body hits the floor on the phase's last frame
   int footfall = 0;     // a foot lands on the phase's last frame: frame_hit 1..3 (the dust size)
+  int plant = 0;        // 10 or 16: that foot stays where it stood, and the body moves around it
 };
 
 constexpr int kImpactPart = 2, kImpactHit = 5;  // the body hitting the floor

@@ -95,12 +95,16 @@ constexpr Pose kHeelOut = With(kStance, {{4, -24, 200, 0},   {3, -12, 10, 0},  {
                                          {8, -110, -190, 20}, {9, 10, 0, 0},   {10, 10, 0, 0},
                                          {14, 0, -8, -6},    {15, 10, 0, 0},   {11, -40, 0, -40}, {5, -40, 0, 40}});
 constexpr Pose kHeelHome = Plus(kStance, {{4, 0, 360, 0}});
-// Flying front kick: off the rear foot, the lead foot driven out.
+// Flying front kick: off the rear foot, the lead foot driven out at chest height, the rear leg
+// folded back under the body, then a landing on bent knees.
 constexpr Pose kFlyLoad = Plus(kStance, {{9, 30, 0, 0}, {15, 30, 0, 0}, {3, 6, 0, 0}});
-constexpr Pose kFlyOut = With(kStance, {{4, -16, 30, 0},   {3, 0, 10, 0},    {2, 10, -40, 0},
-                                        {14, -100, -20, 0}, {15, 6, 0, 0},   {16, 40, 0, 0},
-                                        {8, -50, -6, 6},   {9, 120, 0, 0},   {10, 20, 0, 0},
+constexpr Pose kFlyOut = With(kStance, {{4, -6, 30, 0},    {3, 6, 10, 0},    {2, 0, -40, 0},
+                                        {14, -92, -20, 0}, {15, 6, 0, 0},    {16, 40, 0, 0},
+                                        {8, 24, -6, 6},    {9, 112, 0, 0},   {10, 30, 0, 0},
                                         {11, -60, 0, -40}, {5, -30, 0, 40}});
+constexpr Pose kFlyLand = With(kStance, {{4, 14, 28, 0},    {3, 16, 12, 0},   {2, -14, -36, 0},
+                                         {14, -56, -8, -4}, {15, 70, 0, 0},   {16, -12, 10, 0},
+                                         {8, -16, -6, 6},   {9, 70, 0, 0},    {10, -26, 0, 0}});
 // Low stomp kick at the shins.
 constexpr Pose kStompLoad = Plus(kStance, {{8, -50, 0, 0}, {9, 80, 0, 0}, {3, -4, 0, 0}});
 constexpr Pose kStompOut = With(kStance, {{4, 4, 10, 0},    {3, 14, 10, 0},  {2, -20, -20, 0},
@@ -161,8 +165,8 @@ constexpr Motion kMotions[] = {
       {P(&kPalmLoad, 5, Ease::Out), Cue(P(&kPalmOut, 4, Ease::Snap, Z(1.4f)), kCueSwing), Hit(&kPalmOut, 4, 13, kHitMid),
        Link(P(&kPalmLoad, 7, Ease::InOut, Z(-1.4f))), P(&kLow, 6)}),
     M("spin_kick_low", 242, &kLow,
-      {P(&kSpinLoad, 6, Ease::Out, Z(1.0f)), Cue(P(&kSpinOut, 7, Ease::Snap, Z(1.8f)), kCueHeavy),
-       Hit(&kSpinOut, 4, 10, kHitHigh7), P(&kSpinHome, 10, Ease::InOut, Z(-2.8f)), P(&kSpinHome, 4, Ease::Linear)}),
+      {P(&kSpinLoad, 6, Ease::Out, Z(1.0f)), Cue(Plant(P(&kSpinOut, 7, Ease::Snap), 16), kCueHeavy),
+       Hit(&kSpinOut, 4, 10, kHitHigh7), Plant(P(&kSpinHome, 10, Ease::InOut), 16), P(&kSpinHome, 4, Ease::Linear)}),
     // Crouching buttons 1, 3, 2, 4.
     M("crouch_jab", 37, &kCrouch,
       {Cue(P(&kCrJab, 4, Ease::Snap, Z(0.3f)), kCueLight), Hit(&kCrJab, 3, 13, kHitJab),
@@ -190,11 +194,12 @@ constexpr Motion kMotions[] = {
       {P(&kSlideLoad, 5, Ease::Out), Cue(P(&kSlideOut, 6, Ease::Out, Z(3.4f)), kCueFall), Hit(&kSlideOut, 5, 16, kHitSweep, Z(0.8f)),
        P(&kCrouch, 8, Ease::InOut, Z(-1.2f)), P(&kStance, 8)}),
     M("spinning_heel", 216, &kStance,
-      {P(&kHeelLoad, 6, Ease::Out, Z(0.6f)), Cue(P(&kHeelOut, 7, Ease::Snap, Z(1.6f)), kCueHeavy),
-       Hit(&kHeelOut, 3, 10, kHitHeavy), P(&kHeelHome, 10, Ease::InOut, Z(-1.2f)), P(&kHeelHome, 4, Ease::Linear)}),
+      {P(&kHeelLoad, 6, Ease::Out, Z(0.6f)), Cue(Plant(P(&kHeelOut, 7, Ease::Snap), 16), kCueHeavy),
+       Hit(&kHeelOut, 3, 10, kHitHeavy), Plant(P(&kHeelHome, 10, Ease::InOut), 16), P(&kHeelHome, 4, Ease::Linear)}),
     M("flying_kick", 217, &kStance,
-      {P(&kFlyLoad, 5, Ease::Out), Arc(Cue(P(&kFlyOut, 8, Ease::Out, Z(3.4f)), kCueHeavy), 1.8f),
-       Hit(&kFlyOut, 4, 16, kHitMid7), Cue(P(&kStance, 10, Ease::InOut, Z(-0.8f)), kCueLand)}),
+      {P(&kFlyLoad, 5, Ease::Out), Cue(P(&kFlyOut, 6, Ease::Out, {0, 2.2f, 2.6f}), kCueHeavy),
+       Hit(&kFlyOut, 4, 16, kHitMid7, Z(0.6f)), Cue(P(&kFlyLand, 5, Ease::In, {0, -2.2f, 0.2f}), kCueLand),
+       P(&kStance, 7, Ease::InOut)}),
     M("stomp_kick", 250, &kStance,
       {P(&kStompLoad, 5, Ease::Out, Z(0.6f)), Cue(P(&kStompOut, 4, Ease::Snap, Z(1.0f)), kCueSwing),
        Hit(&kStompOut, 3, 10, kHitLow), Link(P(&kStance, 9, Ease::InOut, Z(-1.6f)))}),

@@ -101,6 +101,11 @@ constexpr Phase Impact(Phase ph) {
   ph.impact = true;
   return ph;
 }
+// The foot `part` (10 or 16) stays planted through the phase; the body turns and moves around it.
+constexpr Phase Plant(Phase ph, int part) {
+  ph.plant = part;
+  return ph;
+}
 constexpr Phase Foot(Phase ph, int size) {
   ph.footfall = size;
   return ph;

@@ -26,12 +26,16 @@ constexpr Pose kLowLead = Plus(kLow, {{14, -14, 0, 0}, {15, 4, 0, 0}, {8, 10, 0,
 constexpr Pose kLowRearUp = Plus(kLow, {{8, -16, 0, 0}, {9, 26, 0, 0}, {10, 10, 0, 0}, {3, -2, 0, 0}});
 constexpr Pose kLowBack = Plus(kLow, {{8, 12, 0, 0}, {9, 4, 0, 0}, {14, 6, 0, 0}, {15, -6, 0, 0}});
 
-// Dashes: a low lunge forward, a hop back.
+// Dashes: a quick skip forward that keeps low (the rear foot drives, a short hop, the lead foot
+// lands and the rear foot is drawn up), and a hop back.
 constexpr Pose kDashLoad = Plus(kStance, {{4, 8, 0, 0}, {3, 6, 0, 0}, {9, 24, 0, 0}, {15, 24, 0, 0}, {8, -10, 0, 0},
                                           {14, -10, 0, 0}});
-constexpr Pose kDashGlide = With(kStance, {{4, 14, 24, 0},   {3, 18, 10, 0},  {2, -24, -34, 0},
-                                           {14, -60, -8, -4}, {15, 30, 0, 0}, {16, -4, 10, 0},
-                                           {8, 30, -6, 6},    {9, 60, 0, 0},  {10, 20, 0, 0}});
+constexpr Pose kDashDrive = With(kStance, {{4, 12, 24, 0},   {3, 14, 10, 0}, {2, -18, -34, 0},
+                                           {14, -56, -8, -4}, {15, 64, 0, 0}, {16, -10, 10, 0},
+                                           {8, 24, -6, 6},    {9, 14, 0, 0},  {10, 30, 0, 0}});
+constexpr Pose kDashLand = With(kStance, {{4, 10, 24, 0},   {3, 12, 10, 0}, {2, -14, -34, 0},
+                                          {14, -44, -8, -4}, {15, 40, 0, 0}, {16, -8, 10, 0},
+                                          {8, 26, -6, 6},    {9, 48, 0, 0},  {10, 14, 0, 0}});
 constexpr Pose kDashBack = With(kStance, {{4, -8, 28, 0},   {3, -6, 12, 0},  {2, 6, -36, 0},
                                           {14, -40, -8, -4}, {15, 50, 0, 0}, {8, 20, -6, 6}, {9, 60, 0, 0},
                                           {11, -30, 0, -30}, {5, -10, 0, 40}});
@@ -46,7 +50,7 @@ constexpr Pose kCrouchTurned = Plus(kCrouch, {{4, 0, 180, 0}});
 constexpr Pose kDuckLead = Plus(kCrouch, {{14, -14, 0, 0}, {15, -12, 0, 0}, {8, 6, 0, 0}, {9, 4, 0, 0}});
 constexpr Pose kDuckRear = Plus(kCrouch, {{8, -12, 0, 0}, {9, -10, 0, 0}, {14, 6, 0, 0}, {15, 6, 0, 0}});
 
-constexpr fig::Vec3 kDashAhead{0, 0, 5.0f}, kDashAway{0, 0, -4.4f};
+constexpr fig::Vec3 kDashHop{0, 0, 4.2f}, kDashAway{0, 0, -4.4f};
 
 // ---- motions ------------------------------------------------------------------------------
 constexpr Motion kMotions[] = {
@@ -68,10 +72,11 @@ constexpr Motion kMotions[] = {
       {P(&kLowRearUp, 7, Ease::Out), Cue(P(&kLowBack, 7, Ease::In), kCueStep), P(&kLowLeadUp, 6),
        Cue(P(&kLow, 6), kCueStep)}),
     M("dash_forward", 3, &kStance,
-      {P(&kDashLoad, 3, Ease::Out), Arc(P(&kDashGlide, 9, Ease::Out, kDashAhead), 0.5f),
-       Cue(P(&kStance, 8, Ease::InOut), kCueStep)}),
+      {P(&kDashLoad, 3, Ease::Out), Plant(P(&kDashDrive, 4, Ease::Out), 10),
+       Arc(P(&kDashLand, 5, Ease::InOut, kDashHop), 0.3f), Cue(Plant(P(&kStance, 6, Ease::InOut), 16), kCueStep),
+       P(&kStance, 2, Ease::Linear)}),
     M("dash_back", 4, &kStance,
-      {P(&kDashLoad, 3, Ease::Out), Arc(P(&kDashBack, 10, Ease::Out, kDashAway), 0.8f),
+      {P(&kDashLoad, 3, Ease::Out), Arc(P(&kDashBack, 10, Ease::Out, kDashAway), 0.55f),
        Cue(P(&kStance, 7, Ease::InOut), kCueLand)}),
     M("turn", 7, &kStance, {P(&kTurnMid, 5, Ease::In), Cue(P(&kTurned, 5, Ease::Out), kCueStep)}),
     M("turn_crouching", 36, &kCrouch, {P(&kCrouchTurnMid, 5, Ease::In), P(&kCrouchTurned, 5, Ease::Out)}),

@@ -46,11 +46,11 @@ inline constexpr Pose kLyingUp = Make({{4, -90, 0, 0},     {3, 0, 0, 0},     {2,
                                        {11, -150, 0, -30}, {12, -20, 0, 0},  {5, -170, 0, 40}, {6, -10, 0, 0},
                                        {14, -10, 0, -8},   {15, 14, 0, 0},   {16, 40, 0, 0},
                                        {8, -4, 0, 10},     {9, 6, 0, 0},     {10, 40, 0, 0}});
-// On the face, head toward the opponent, arms under the shoulders.
-inline constexpr Pose kLyingDown = Make({{4, 90, 0, 0},     {3, 4, 0, 0},     {2, -30, -30, 0},
-                                         {11, -20, 0, -50}, {12, -100, 0, 0}, {5, -20, 0, 50}, {6, -100, 0, 0},
-                                         {14, 0, 0, -8},    {15, 10, 0, 0},   {16, -50, 0, 0},
-                                         {8, 0, 0, 8},      {9, 16, 0, 0},    {10, -50, 0, 0}});
+// On the face, head toward the opponent, arms stretched out along the floor past the head.
+inline constexpr Pose kLyingDown = Make({{4, 90, 0, 0},      {3, 4, 0, 0},     {2, -30, -30, 0},
+                                         {11, -160, 0, -24}, {12, -20, 0, 0},  {5, -160, 0, 24}, {6, -20, 0, 0},
+                                         {14, 0, 0, -8},     {15, 10, 0, 0},   {16, -50, 0, 0},
+                                         {8, 0, 0, 8},       {9, 16, 0, 0},    {10, -50, 0, 0}});
 // Sitting up from the back, and on one knee.
 inline constexpr Pose kSitUp = Make({{4, -40, 10, 0},  {3, 30, 0, 0},    {2, 10, -10, 0},
                                      {11, -10, 0, -20}, {12, -40, 0, 0},  {5, 10, 0, 30}, {6, -30, 0, 0},

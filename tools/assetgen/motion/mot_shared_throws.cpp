@@ -46,10 +46,11 @@ constexpr Pose kLifted = With(kHeld, {{4, 0, 0, 0},      {3, 10, 0, 0},  {2, -20
                                       {8, 10, 0, 10},    {9, 50, 0, 0},  {10, 40, 0, 0}});
 constexpr Pose kHeldLow = Plus(kHeld, {{4, 10, 0, 0}, {3, 10, 0, 0}, {9, 20, 0, 0}, {15, 20, 0, 0}});
 constexpr Pose kLiftedTurn = Plus(kLifted, {{4, 0, -60, 0}, {3, 10, 0, 0}});
-constexpr Pose kOverTop = Make({{4, -170, 180, 0}, {3, -10, 0, 0},   {2, -20, 0, 0},
+constexpr Pose kOverTop = Make({{4, 135, 180, 0}, {3, -10, 0, 0},   {2, -20, 0, 0},
                                 {11, -150, 0, -30}, {12, -20, 0, 0}, {5, -150, 0, 30}, {6, -20, 0, 0},
                                 {14, -30, 0, -6},  {15, 40, 0, 0},   {8, -30, 0, 6},   {9, 40, 0, 0}});
-constexpr Pose kLyingUpTurned = Plus(kLyingUp, {{4, 0, 180, 0}});
+// On the back beyond the thrower, head away from it: reached by turning over forward (X 270, not -90).
+constexpr Pose kLyingUpTurned = Plus(kLyingUp, {{4, 360, 180, 0}});
 constexpr Pose kSweptOver = Make({{4, -100, 20, 0},   {3, 10, 0, 0},   {2, 30, -20, 0},
                                   {11, -100, 0, -40}, {12, -50, 0, 0}, {5, -100, 0, 40}, {6, -50, 0, 0},
                                   {14, -50, 0, -10},  {15, 20, 0, 0},  {8, -60, 0, 10},  {9, 30, 0, 0}});
@@ -80,14 +81,18 @@ constexpr Motion Throw(const char* name, int action, const Pose* start, const Po
             Cue(P(hurl, kHurlFrames, Ease::In), kCueHeavy), P(hurl, 6, Ease::Linear), P(start, 14, Ease::InOut, Z(-0.4f))});
 }
 
-// A thrown fighter: held, lifted, hurled through `air`, landing as `toss` says.
+// A thrown fighter: held, lifted, hurled up into `air` and down onto the floor as `toss` says. The
+// flight is two halves (up to the air pose, down to the landing) so the body turns over on its
+// way instead of tumbling through in-betweens, and it lands flat on the frame the floor is marked.
 constexpr Motion Thrown(const char* name, int action, const Pose* held, const Pose* lifted, const Pose* air,
                         const Pose* lying, Toss toss) {
   const bool feet = toss.land == Land::Feet;
-  Phase hurl = Arc(P(air, kHurlFrames, Ease::In, {0, -2.2f, toss.away}), toss.height);
-  if (!feet) hurl = Impact(Cue(hurl, kCueSlam));
+  constexpr int kUp = kHurlFrames / 2, kDown = kHurlFrames - kUp;
+  Phase up = P(air, kUp, Ease::Linear, {0, toss.height, toss.away * 0.5f});
+  Phase down = P(lying, kDown, Ease::Linear, {0, -2.2f - toss.height, toss.away * 0.5f});
+  if (!feet) down = Impact(Cue(down, kCueSlam));
   return M(name, action, &kStance,
-           {P(held, kGrabFrames, Ease::Out, Z(0.5f)), P(lifted, kLiftFrames, Ease::InOut, Y(2.2f, 0.3f)), hurl,
+           {P(held, kGrabFrames, Ease::Out, Z(0.5f)), P(lifted, kLiftFrames, Ease::InOut, Y(2.2f, 0.3f)), up, down,
             P(lying, feet ? 10 : 6, Ease::Out, Z(feet ? -0.8f : 0.0f)), P(lying, feet ? 10 : 18, Ease::Linear)});
 }
 
