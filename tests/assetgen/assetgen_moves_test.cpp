@@ -2,7 +2,9 @@
 // own loaders after the shared frames.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <memory>
 #include <filesystem>
 #include <set>
 #include <string>
@@ -188,6 +190,69 @@ TEST_F(OwnMoves, NoTwoCharactersShareASpecialMove) {
     for (int d = c + 1; d < fig::kCharacters; ++d)
       for (const auto& m : moves[c])
         for (const auto& n : moves[d]) ASSERT_NE(m, n) << "characters " << c << " and " << d;
+}
+
+// The command slots the computer starts from 13 units or more and from 10 or more, by the
+// characters its routines play (slot = 4 x command + 2 for buttons 3/4 + 1 for buttons 1/3).
+struct FarUse {
+  std::vector<int> characters, from13, from10;
+};
+const FarUse kFarUse[] = {
+    {{0, 11, 14}, {13, 25}, {27, 21, 19, 5}},  {{1}, {13, 23}, {25, 1, 19, 7}},
+    {{2}, {25}, {15, 21, 13, 5, 3}},           {{3, 10}, {}, {15, 23, 13, 1}},
+    {{4}, {13}, {25, 27, 15, 19, 3}},          {{5}, {}, {27, 23, 31, 25, 1, 5}},
+    {{6}, {13, 25}, {15, 19, 23}},             {{7, 12}, {}, {27, 23, 15, 31, 13, 25, 3}},
+    {{8}, {}, {25, 23, 13, 31, 3}},            {{9, 13}, {15, 13}, {21, 25, 1}},
+};
+
+// Root-to-root distance at which fighter 0's strikes in `action` first touch a defender: the
+// striking box's front under the game's own posing (frame offsets included), plus the
+// defender's widened front.
+float Own_Reach(const fig::Model& model, int action, bool* projectile) {
+  Fighter& f = fighters[0];
+  f.first_part = 2;
+  f.last_part = 21;
+  float front = -1e9f;
+  *projectile = false;
+  for (int fr = f.act_first[action]; fr <= f.act_last[action]; ++fr) {
+    const int part = f.frame_part[fr], kind = f.frame_hit[fr] % 100;
+    if (!armed(part, f.frame_hit[fr])) continue;
+    *projectile = *projectile || kind == 24 || kind == 25 || kind == 42 || kind == 43;
+    f.frame = fr;
+    Pose_Fighter(0);
+    for (const auto& c : model.boxes[part].corner) {
+      float out[3];
+      Mat_Apply(&Anim.Pose[0][part], c[0], c[1], c[2], &out[0], &out[1], &out[2]);
+      front = std::max(front, out[2]);
+    }
+  }
+  return front + 0.8f;
+}
+
+TEST_F(OwnMoves, AttacksReachTheDistancesTheComputerPlaysThemFrom) {
+  for (int c = 0; c < fig::kCharacters; ++c) {
+    SCOPED_TRACE(c);
+    Load_Character(c);
+    auto model = std::make_unique<fig::Model>();
+    fig::TextureLayout layout;
+    ASSERT_TRUE(fig::Fig_BuildModel(c, *model, layout));
+    std::vector<int> band(1000, 0);
+    for (const FarUse& use : kFarUse) {
+      if (std::find(use.characters.begin(), use.characters.end(), c) == use.characters.end()) continue;
+      for (int slot : use.from10)
+        if (MoveTables.Special_Table[c][slot] != NO_MOVE) band[MoveTables.Special_Table[c][slot]] = 10;
+      for (int slot : use.from13)
+        if (MoveTables.Special_Table[c][slot] != NO_MOVE) band[MoveTables.Special_Table[c][slot]] = 13;
+    }
+    for (int a : own_actions(c)) {
+      if (!is_special(a) && a != 241 && a != 242) continue;
+      bool projectile = false;
+      const float reach = Own_Reach(*model, a, &projectile);
+      if (projectile) continue;  // the shot flies on
+      EXPECT_GE(reach, std::max(5.0f, band[a] - 0.05f)) << "action " << a;
+      EXPECT_LE(reach, 17.0f) << "action " << a;
+    }
+  }
 }
 
 TEST_F(OwnMoves, TheOpeningPlaysItsWholeScriptWithoutBlows) {

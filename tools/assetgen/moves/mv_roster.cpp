@@ -12,6 +12,7 @@
 #include "moves/mv_arch.h"
 #include "moves/mv_holds.h"
 #include "moves/mv_pose.h"
+#include "moves/mv_reach.h"
 
 namespace mv {
 namespace {
@@ -302,10 +303,17 @@ void Mv_CharacterMoves(int character, std::vector<Move>& out) {
   out.clear();
   if (character < 0 || character >= 15) return;
   const Style& st = kStyles[character];
-  for (const Row* row : Rows_Of(character)) out.push_back(Build_Move(row->action, st, *row));
+  // Attacks reach where they are used: the computer starts some from its far bands.
+  auto attack = [&](const Row& row) {
+    Move mv = Build_Move(row.action, st, row);
+    const int band = Mv_ReachBand(character, row.action);
+    Mv_FitReach(mv, character, band > 0 ? static_cast<float>(band) : kCloseReach);
+    out.push_back(std::move(mv));
+  };
+  for (const Row* row : Rows_Of(character)) attack(*row);
   Add_Holds(character, st, out);
-  out.push_back(Build_Move(241, st, Row{241, Arch::LowPalm, 4, 0, false}));
-  out.push_back(Build_Move(242, st, Row{242, Arch::LowKick, 8, 0, false}));
+  attack(Row{241, Arch::LowPalm, 4, 0, false});
+  attack(Row{242, Arch::LowKick, 8, 0, false});
   out.push_back(Build_Move(12, st, Row{12, st.win1, 0, 0, false}));
   out.push_back(Build_Move(13, st, Row{13, st.win2, 0, 0, false}));
   Add_Held(st, out);

@@ -1,0 +1,126 @@
+// Reach of the characters' own attacks, measured on the character's own body: the striking
+// part's box carried by each strike frame's pose and whole-body offset.
+#include "moves/mv_reach.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <initializer_list>
+#include <memory>
+#include <vector>
+
+#include "fight/fight_moves.h"
+#include "figures/fig_figure.h"
+
+namespace mv {
+namespace {
+
+constexpr std::uint32_t Bits(std::initializer_list<int> list) {
+  std::uint32_t mask = 0;
+  for (int b : list) mask |= 1u << b;
+  return mask;
+}
+
+// The command slots each computer routine starts from 13 units or more (its 13-16 band, its
+// answer to a crouching or attacking opponent there) and from 10 or more (its 10-13 band and
+// its far super moves). A slot is 4 x command + 2 for buttons 3/4 + 1 for buttons 1/3.
+struct FarPlay {
+  std::uint32_t characters;
+  std::uint32_t from13, from10;
+};
+// clang-format off
+constexpr FarPlay kFarPlay[] = {
+    {Bits({0, 11, 14}), Bits({13, 25}), Bits({27, 21, 19, 5})},              // routine 1
+    {Bits({1}),         Bits({13, 23}), Bits({25, 1, 19, 7})},               // routine 2
+    {Bits({2}),         Bits({25}),     Bits({15, 21, 13, 5, 3})},           // routine 3
+    {Bits({3, 10}),     0,              Bits({15, 23, 13, 1})},              // routine 4
+    {Bits({4}),         Bits({13}),     Bits({25, 27, 15, 19, 3})},          // routine 5
+    {Bits({5}),         0,              Bits({27, 23, 31, 25, 1, 5})},       // routine 6
+    {Bits({6}),         Bits({13, 25}), Bits({15, 19, 23})},                 // routine 7
+    {Bits({7, 12}),     0,              Bits({27, 23, 15, 31, 13, 25, 3})},  // routine 8
+    {Bits({8}),         0,              Bits({25, 23, 13, 31, 3})},          // routine 9
+    {Bits({9, 13}),     Bits({15, 13}), Bits({21, 25, 1})},                  // routine 10
+};
+// clang-format on
+
+const fig::Model& Model_Of(int character) {
+  static std::array<std::unique_ptr<fig::Model>, 15> models;
+  auto& m = models[static_cast<std::size_t>(character)];
+  if (!m) {
+    m = std::make_unique<fig::Model>();
+    fig::TextureLayout layout;
+    fig::Fig_BuildModel(character, *m, layout);
+  }
+  return *m;
+}
+
+bool Is_Projectile(int hit) {
+  const int kind = hit % 100;
+  return kind == 24 || kind == 25 || kind == 42 || kind == 43;
+}
+
+int First_Strike(const mot::Motion& m) {
+  for (int i = 0; i < m.phase_count; ++i)
+    if (m.phases[i].strike_part >= 2) return i;
+  return -1;
+}
+
+}  // namespace
+
+int Mv_ReachBand(int character, int action) {
+  static const bool tables = (build_move_tables(), true);
+  (void)tables;
+  if (character < 0 || character >= 15) return 0;
+  int band = 0;
+  for (const FarPlay& row : kFarPlay) {
+    if ((row.characters & (1u << character)) == 0) continue;
+    for (int slot = 0; slot < 32; ++slot) {
+      if (MoveTables.Special_Table[character][slot] != action) continue;
+      if (row.from13 & (1u << slot)) band = std::max(band, 13);
+      if (row.from10 & (1u << slot)) band = std::max(band, 10);
+    }
+  }
+  return band;
+}
+
+float Mv_Reach(const Move& mv, int character) {
+  fig::Skeleton skel;
+  fig::Fig_BuildSkeleton(character, skel);
+  mot::Joints joints;
+  mot::Mot_JointsOf(skel, joints);
+  std::vector<mot::BakedFrame> frames;
+  mot::Mot_Bake(mv.motion, joints, frames);
+  const fig::Model& model = Model_Of(character);
+  float front = -1e9f;
+  for (const mot::BakedFrame& f : frames) {
+    if (f.part < 2 || f.part > 21 || f.hit == 5) continue;
+    mot::PartMatrix pm[22];
+    mot::Mot_Unpack(f.key, pm);
+    for (const auto& c : model.boxes[f.part].corner)
+      front = std::max(front, fig::Apply(pm[f.part].r, fig::Vec3{c[0], c[1], c[2]}).z + pm[f.part].t.z + f.offset.z);
+  }
+  return front + 0.8f;
+}
+
+void Mv_FitReach(Move& mv, int character, float target) {
+  const int strike = First_Strike(mv.motion);
+  if (strike < 0 || Is_Projectile(mv.motion.phases[strike].hit)) return;
+  // The lunge is shared by the beat before the strike and the strike itself; a few rounds
+  // settle it, as the strike frame that reaches furthest may change with the travel.
+  float added = 0;
+  for (int round = 0; round < 4; ++round) {
+    const float short_by = target + 0.1f - Mv_Reach(mv, character);
+    if (short_by <= 0) break;
+    added += short_by;
+    if (strike > 0) {
+      mv.motion.phases[strike - 1].travel.z += short_by * 0.6f;
+      mv.motion.phases[strike].travel.z += short_by * 0.4f;
+    } else {
+      mv.motion.phases[strike].travel.z += short_by;
+    }
+  }
+  // A long lunge leaves the floor in a low bound rather than gliding along it.
+  if (strike > 0 && added > 1.5f) mv.motion.phases[strike - 1].arc += std::min(1.0f, 0.12f * added);
+}
+
+}  // namespace mv

@@ -1,0 +1,23 @@
+// How far a character's own attacks reach. The computer starts some special moves from far off
+// (its distance bands of 10 and 13 units); those moves carry the body in far enough for their
+// first strike to land there, and every other attack lands at least at close range.
+#pragma once
+#include "moves/mv_roster.h"
+
+namespace mv {
+
+constexpr float kCloseReach = 5.5f;  // root to root: just past the 4.0 the fighters keep apart
+
+// The band (13 or 10) from which the computer starts this character's action, or 0 when it
+// only plays it close.
+int Mv_ReachBand(int character, int action);
+
+// The root-to-root distance at which the move's strikes first touch the defender: the front of
+// the striking part's box, plus the defender's front (0.8 once its boxes are widened).
+float Mv_Reach(const Move& mv, int character);
+
+// Adds forward travel to the beats leading into the first strike until the move reaches
+// `target`; a move that already does is left alone.
+void Mv_FitReach(Move& mv, int character, float target);
+
+}  // namespace mv
