@@ -56,11 +56,11 @@ namespace {
 
 // Solves and packs one frame; `m` keeps the solved parts.
 void Bake_Pose(const Motion& mo, const Joints& j, const Pose& pose, BakedFrame& f, float rest_sole,
-               PartMatrix m[22]) {
+               PartMatrix m[22], float ground = 1) {
   Pose p = pose;
-  if (mo.grounded) {
+  if (mo.grounded && ground > 0) {
     Mot_Solve(j, p, m);
-    p.root.y += rest_sole - Mot_SoleDrop(j, m);
+    p.root.y += (rest_sole - Mot_SoleDrop(j, m)) * ground;
   }
   Mot_Solve(j, p, m);
   Mot_Pack(m, f.key);
@@ -77,6 +77,7 @@ int Mot_Length(const Motion& mo) {
 void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out) {
   float rest_sole = j.at[10].y - 0.42f;
   const Pose* from = mo.start;
+  float from_ground = 1;
   Vec3 travelled{};
   PartMatrix m[22];
   {
@@ -93,9 +94,10 @@ void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out) {
     if (planted) spot = Mot_PosedJoint(j, m, ph.plant) + (out.empty() ? Vec3{} : out.back().offset);
     for (int s = 1; s <= n; ++s) {
       Pose p;
-      Mot_Blend(*from, *ph.pose, Mot_Ease(ph.ease, s, n), p);
+      const float e = Mot_Ease(ph.ease, s, n);
+      Mot_Blend(*from, *ph.pose, e, p);
       BakedFrame bf{};
-      Bake_Pose(mo, j, p, bf, rest_sole, m);
+      Bake_Pose(mo, j, p, bf, rest_sole, m, from_ground + (ph.ground - from_ground) * e);
       bf.offset = travelled + ph.travel * Mot_Ease(Ease::InOut, s, n);
       if (planted) {
         Vec3 now = Mot_PosedJoint(j, m, ph.plant) + bf.offset;
@@ -125,6 +127,7 @@ void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out) {
     }
     travelled = travelled + ph.travel + shift;
     from = ph.pose;
+    from_ground = ph.ground;
   }
 }
 

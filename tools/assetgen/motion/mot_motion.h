@@ -29,6 +29,7 @@ struct Phase {
   bool impact = false;  // the body hits the floor on the phase's last frame
   int footfall = 0;     // a foot lands on the phase's last frame: frame_hit 1..3 (the dust size)
   int plant = 0;        // 10 or 16: that foot stays where it stood, and the body moves around it
+  float ground = 1;     // 1 on the floor; 0 off it (the fight lifts the body, the hips keep their height)
 };
 
 constexpr int kImpactPart = 2, kImpactHit = 5;  // the body hitting the floor

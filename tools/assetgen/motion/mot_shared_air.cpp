@@ -31,6 +31,7 @@ constexpr Pose kRollBack = Make({{4, -150, 20, 0},   {3, 30, 0, 0},   {2, 30, -2
                                  {11, -60, 0, -20},  {12, -120, 0, 0}, {5, -60, 0, 20}, {6, -120, 0, 0},
                                  {14, -110, 0, -6},  {15, 130, 0, 0}, {8, -110, 0, 6},  {9, 130, 0, 0}});
 constexpr Pose kRollOver = Plus(kCrouch, {{4, -360, 0, 0}});
+constexpr Pose kRolledStance = Plus(kStance, {{4, -360, 0, 0}});  // stood up without turning back
 
 // ---- dodges ---------------------------------------------------------------------------------
 // Down and to the side under a high blow, ending crouched.
@@ -41,7 +42,9 @@ constexpr Pose kWeaveBack = Plus(kWeave, {{4, 0, 0, 26}, {3, 0, 0, 16}, {2, 0, 0
 // A forward roll along the floor, ending crouched.
 constexpr Pose kRollDive = With(kJumpTuck, {{4, 70, 28, 0}, {3, 30, 12, 0}, {2, 20, -30, 0},
                                             {11, -120, 0, -14}, {5, -120, 0, 14}});
-constexpr Pose kRollBall = Plus(kJumpTuck, {{4, 200, 0, 0}, {3, 20, 0, 0}, {2, 30, 0, 0}});
+// Curled tight, chin on the chest, arms round the shins: the roll goes over the shoulders, not the head.
+constexpr Pose kRollBall = Plus(kJumpTuck, {{4, 200, 0, 0}, {3, 45, 0, 0}, {2, 50, 0, 0}, {11, -40, 0, 0}, {5, -40, 0, 0},
+                                            {12, -40, 0, 0}, {6, -40, 0, 0}});
 constexpr Pose kRollUp = Plus(kCrouch, {{4, 360, 0, 0}});
 
 // ---- gauge charge ---------------------------------------------------------------------------
@@ -74,19 +77,19 @@ constexpr fig::Vec3 kRollAhead{0, 0, 3.2f};
 // ---- motions ------------------------------------------------------------------------------
 constexpr Motion kMotions[] = {
     M("jump", 9, &kStance,
-      {P(&kJumpLoad, 5, Ease::Out), Cue(P(&kJumpUp, 4, Ease::Out), kCueSwing), P(&kJumpTuck, 8, Ease::Out),
-       P(&kJumpTuck, 8, Ease::Linear), P(&kJumpReach, 8, Ease::InOut), Cue(P(&kJumpLand, 3, Ease::In), kCueLand),
+      {P(&kJumpLoad, 5, Ease::Out), Air(Cue(P(&kJumpUp, 4, Ease::Out), kCueSwing)), Air(P(&kJumpTuck, 8, Ease::Out)),
+       Air(P(&kJumpTuck, 8, Ease::Linear)), Air(P(&kJumpReach, 8, Ease::InOut)), Cue(P(&kJumpLand, 3, Ease::In), kCueLand),
        P(&kStance, 8, Ease::InOut)}),
     M("jump_diagonal", 21, &kStance,
-      {P(&kJumpLoad, 5, Ease::Out), Cue(P(&kJumpUp, 4, Ease::Out), kCueSwing), P(&kFlipTuck, 10, Ease::InOut),
-       P(&kFlipOpen, 10, Ease::InOut), P(&kFlipOpen, 4, Ease::Linear), Cue(P(&kFlipLand, 3, Ease::In), kCueLand),
+      {P(&kJumpLoad, 5, Ease::Out), Air(Cue(P(&kJumpUp, 4, Ease::Out), kCueSwing)), Air(P(&kFlipTuck, 10, Ease::InOut)),
+       Air(P(&kFlipOpen, 10, Ease::InOut)), Air(P(&kFlipOpen, 4, Ease::Linear)), Cue(P(&kFlipLand, 3, Ease::In), kCueLand),
        P(&kFlipStance, 8, Ease::InOut)}),
     // Held on their first frame while the fighter stays down.
     M("lying_back", 50, &kLyingUp, {P(&kLyingUp, 8, Ease::Linear)}),
     M("lying_face", 51, &kLyingDown, {P(&kLyingDown, 8, Ease::Linear)}),
     M("roll_up", 55, &kLyingUp,
       {P(&kRollBack, 8, Ease::InOut), P(&kRollOver, 8, Ease::InOut), Cue(P(&kRollOver, 2, Ease::Linear), kCueStep),
-       P(&kRollOver, 1, Ease::Linear), P(&kStance, 8)}),
+       P(&kRollOver, 1, Ease::Linear), P(&kRolledStance, 8)}),
     M("rise_from_back", 56, &kLyingUp,
       {P(&kSitUp, 9, Ease::InOut), P(&kKneel, 9, Ease::InOut), Cue(P(&kStance, 10), kCueStep)}),
     M("rise_from_face", 57, &kLyingDown,

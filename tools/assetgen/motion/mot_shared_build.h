@@ -106,6 +106,12 @@ constexpr Phase Plant(Phase ph, int part) {
   ph.plant = part;
   return ph;
 }
+// Off the floor by the phase's end: the fight carries the body, so the hips keep their height
+// while the legs tuck or reach.
+constexpr Phase Air(Phase ph) {
+  ph.ground = 0;
+  return ph;
+}
 constexpr Phase Foot(Phase ph, int size) {
   ph.footfall = size;
   return ph;
