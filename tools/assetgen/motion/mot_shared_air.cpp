@@ -68,9 +68,10 @@ constexpr Pose kWinHold = With(kWinRise, {{5, -170, 0, 14}, {6, -10, 0, 0}, {2, 
 constexpr Pose kBow = Make({{4, 10, 0, 0},    {3, 40, 0, 0},    {2, 20, 0, 0},
                             {11, -10, 0, -6}, {12, -20, 0, 0},  {5, -10, 0, 6}, {6, -20, 0, 0},
                             {14, 0, 0, -4},   {8, 0, 0, 4}});
-constexpr Pose kArmsFolded = Make({{4, 0, 0, 0},       {3, -4, 0, 0},     {2, -8, 0, 0},
-                                   {11, -50, -40, -10}, {12, -120, 60, 0}, {5, -50, 40, 10}, {6, -120, -60, 0},
-                                   {14, 0, 0, -10},     {15, 0, 0, 0},     {8, 0, 0, 10}});
+// Folded: each upper arm turned in, the forearms crossed level in front of the chest.
+constexpr Pose kArmsFolded = Make({{4, 0, 0, 0},      {3, -4, 0, 0},    {2, -8, 0, 0},
+                                   {11, -36, 50, 0},  {12, -64, 0, 0},  {5, -30, -50, 0}, {6, -60, 0, 0},
+                                   {14, 0, 0, -10},   {15, 0, 0, 0},    {8, 0, 0, 10}});
 
 constexpr fig::Vec3 kRollAhead{0, 0, 3.2f};
 

@@ -229,15 +229,16 @@ std::vector<Pose> VictoryFist_Poses(const Pose& s) {
 }
 
 std::vector<Pose> VictoryBow_Poses(const Pose&) {
-  const Pose stand = Pose_Make({{5, -60, 30, 0}, {6, -70, 0, 0}, {11, -60, -30, 0}, {12, -70, 0, 0}, {14, 0, 0, -4},
+  // Fist in palm before the chest: the upper arms turned in so the hands meet.
+  const Pose stand = Pose_Make({{5, -55, -35, 0}, {6, -75, 0, 0}, {11, -55, 35, 0}, {12, -75, 0, 0}, {14, 0, 0, -4},
                                 {8, 0, 0, 4}});
   const Pose bow = Pose_With(stand, {{3, 35, 0, 0}, {2, 20, 0, 0}});
   return {stand, bow};
 }
 
 std::vector<Pose> VictoryArms_Poses(const Pose&) {
-  const Pose fold = Pose_Make({{3, -6, 0, 0}, {2, -12, 10, 0}, {5, -30, 40, 10}, {6, -120, 40, 0}, {11, -30, -40, -10},
-                               {12, -120, -40, 0}, {14, -4, -10, -10}, {8, -4, 10, 10}});
+  const Pose fold = Pose_Make({{3, -6, 0, 0}, {2, -12, 10, 0}, {5, -30, -50, 0}, {6, -60, 0, 0}, {11, -36, 50, 0},
+                               {12, -64, 0, 0}, {14, -4, -10, -10}, {8, -4, 10, 10}});
   const Pose chin = Pose_With(fold, {{2, -22, 20, 0}, {3, -10, 0, 0}});
   return {fold, chin};
 }
