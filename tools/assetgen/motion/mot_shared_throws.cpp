@@ -77,22 +77,24 @@ constexpr fig::Vec3 Z(float z) { return {0, 0, z}; }
 constexpr Motion Throw(const char* name, int action, const Pose* start, const Pose* grab, const Pose* lift,
                        const Pose* hurl) {
   return M(name, action, start,
-           {Cue(P(grab, kGrabFrames, Ease::Out, Z(0.4f)), kCueShout), P(lift, kLiftFrames, Ease::InOut),
-            Cue(P(hurl, kHurlFrames, Ease::In), kCueHeavy), P(hurl, 6, Ease::Linear), P(start, 14, Ease::InOut, Z(-0.4f))});
+           {Cue(P(grab, kGrabFrames, Ease::Out, Z(0.2f)), kCueShout), P(lift, kLiftFrames, Ease::InOut),
+            Cue(P(hurl, kHurlFrames, Ease::In), kCueHeavy), P(hurl, 6, Ease::Linear), P(start, 14, Ease::InOut, Z(-0.2f))});
 }
 
 // A thrown fighter: held, lifted, hurled up into `air` and down onto the floor as `toss` says. The
 // flight is two halves (up to the air pose, down to the landing) so the body turns over on its
 // way instead of tumbling through in-betweens, and it lands flat on the frame the floor is marked.
+// `pull` draws the victim in while it is lifted (onto the hip for the low stance's throw).
 constexpr Motion Thrown(const char* name, int action, const Pose* held, const Pose* lifted, const Pose* air,
-                        const Pose* lying, Toss toss) {
+                        const Pose* lying, Toss toss, float pull) {
   const bool feet = toss.land == Land::Feet;
   constexpr int kUp = kHurlFrames / 2, kDown = kHurlFrames - kUp;
-  Phase up = P(air, kUp, Ease::Linear, {0, toss.height, toss.away * 0.5f});
-  Phase down = P(lying, kDown, Ease::Linear, {0, -2.2f - toss.height, toss.away * 0.5f});
+  const float flight = toss.away - pull;
+  Phase up = P(air, kUp, Ease::Linear, {0, toss.height, flight * 0.5f});
+  Phase down = P(lying, kDown, Ease::Linear, {0, -2.2f - toss.height, flight * 0.5f});
   if (!feet) down = Impact(Cue(down, kCueSlam));
   return M(name, action, &kStance,
-           {P(held, kGrabFrames, Ease::Out, Z(0.5f)), P(lifted, kLiftFrames, Ease::InOut, Y(2.2f, 0.3f)), up, down,
+           {P(held, kGrabFrames, Ease::Out, Z(0.2f)), P(lifted, kLiftFrames, Ease::InOut, Y(2.2f, pull)), up, down,
             P(lying, feet ? 10 : 6, Ease::Out, Z(feet ? -0.8f : 0.0f)), P(lying, feet ? 10 : 18, Ease::Linear)});
 }
 
@@ -149,7 +151,7 @@ constexpr const Pose* Lying(const Toss& t) {
 constexpr Motion ThrownRow(const char* name, int i) {
   const bool low = i % 2 == 1;
   return Thrown(name, 82 + i, low ? &kHeldLow : &kHeld, low ? &kLiftedTurn : &kLifted, &kAirSet[i],
-                Lying(kTosses[i]), kTosses[i]);
+                Lying(kTosses[i]), kTosses[i], low ? 1.2f : 0.1f);
 }
 
 constexpr Motion kMotions[] = {
