@@ -99,8 +99,8 @@ void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out) {
       BakedFrame bf{};
       Bake_Pose(mo, j, p, bf, rest_sole, m, from_ground + (ph.ground - from_ground) * e);
       bf.offset = travelled + ph.travel * Mot_Ease(Ease::InOut, s, n);
-      if (planted) {
-        Vec3 now = Mot_PosedJoint(j, m, ph.plant) + bf.offset;
+      if (planted) {  // the foot goes only where the phase's own travel takes it
+        Vec3 now = Mot_PosedJoint(j, m, ph.plant) + travelled;
         shift = {spot.x - now.x, 0, spot.z - now.z};
         bf.offset = bf.offset + shift;
       }

@@ -79,7 +79,7 @@ constexpr fig::Vec3 kRollAhead{0, 0, 3.2f};
 constexpr Motion kMotions[] = {
     M("jump", 9, &kStance,
       {P(&kJumpLoad, 5, Ease::Out), Air(Cue(P(&kJumpUp, 4, Ease::Out), kCueSwing)), Air(P(&kJumpTuck, 8, Ease::Out)),
-       Air(P(&kJumpTuck, 8, Ease::Linear)), Air(P(&kJumpReach, 8, Ease::InOut)), Cue(P(&kJumpLand, 3, Ease::In), kCueLand),
+       Air(P(&kJumpTuck, 8, Ease::Linear)), P(&kJumpReach, 8, Ease::InOut), Cue(P(&kJumpLand, 3, Ease::In), kCueLand),
        P(&kStance, 8, Ease::InOut)}),
     M("jump_diagonal", 21, &kStance,
       {P(&kJumpLoad, 5, Ease::Out), Air(Cue(P(&kJumpUp, 4, Ease::Out), kCueSwing)), Air(P(&kFlipTuck, 10, Ease::InOut)),

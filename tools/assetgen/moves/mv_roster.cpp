@@ -193,11 +193,18 @@ Move Build_Move(int action, const Style& st, const Row& row) {
   mv.motion.name = d.name;
   mv.motion.action = action;
   mv.motion.start = &stance;
+  // A spin turns on the supporting foot: the one that does not kick.
+  Limb kick = Limb::None;
+  for (int i = 0; i < d.beat_count && kick == Limb::None; ++i) kick = d.beats[i].limb;
+  const int support = Part_Of(kick == Limb::LeadFoot ? Limb::RearFoot : Limb::LeadFoot, mirror, st);
+  const mot::Pose* prev = &stance;
   int frame = 0;
   for (int i = 0; i < d.beat_count && i < mot::kMaxPhases; ++i) {
     const Beat& b = d.beats[i];
     mot::Phase& ph = mv.motion.phases[mv.motion.phase_count++];
     ph.pose = b.pose < 0 ? &stance : poses[b.pose];
+    if (std::fabs(ph.pose->ang[4][1] - prev->ang[4][1]) > 60 && b.up == 0) ph.plant = support;
+    prev = ph.pose;
     ph.frames = b.timed ? std::max(1, static_cast<int>(std::lround(b.frames * st.speed))) : b.frames;
     if (b.limb != Limb::None) ph.frames = std::max(2, ph.frames);
     ph.ease = b.ease;
