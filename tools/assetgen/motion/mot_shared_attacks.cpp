@@ -178,7 +178,7 @@ constexpr Motion kMotions[] = {
       {Cue(P(&kCrPunch, 5, Ease::Snap, Z(1.0f)), kCueSwing), Hit(&kCrPunch, 3, 7, kHitLow),
        Link(P(&kCrouch, 10, Ease::InOut, Z(-1.0f)))}),
     M("sweep", 40, &kCrouch,
-      {P(&kSweepLoad, 5, Ease::Out, Z(0.8f)), Cue(P(&kSweepOut, 5, Ease::Snap, Z(0.8f)), kCueHeavy),
+      {P(&kSweepLoad, 5, Ease::Out, Z(0.8f)), Cue(Plant(P(&kSweepOut, 5, Ease::Snap, Z(0.8f)), 16), kCueHeavy),
        Hit(&kSweepOut, 4, 10, kHitSweep), P(&kSweepLoad, 8, Ease::InOut, Z(-1.6f)), P(&kCrouch, 6)}),
     // Directional attacks: forward, down-forward, back with buttons 1/2 and 3/4.
     M("lunge_punch", 181, &kStance,
@@ -228,8 +228,8 @@ constexpr Motion kMotions[] = {
        P(&kStance, 10)}),
     // Up off the floor into a spinning kick.
     M("ground_counter", 522, &kKneel,
-      {Cue(P(&kRiseSpin, 8, Ease::Out), kCueShout), Cue(P(&kRiseKick, 6, Ease::Snap, Z(2.6f)), kCueHeavy),
-       Hit(&kRiseKick, 4, 10, kHitHeavy), P(&kHeelHome, 12, Ease::InOut, Z(-2.6f)), P(&kHeelHome, 16, Ease::Linear)}),
+      {Cue(P(&kRiseSpin, 8, Ease::Out), kCueShout), Cue(Plant(P(&kRiseKick, 6, Ease::Snap, Z(0.9f)), 16), kCueHeavy),
+       Hit(&kRiseKick, 4, 10, kHitHeavy), Plant(P(&kHeelHome, 12, Ease::InOut, Z(-0.9f)), 16), P(&kHeelHome, 16, Ease::Linear)}),
     // The parry: open hands waiting for a blow.
     M("counter_stance", 138, &kStance,
       {P(&kParry, 4, Ease::Snap), P(&kParry, 14, Ease::Linear), P(&kStance, 10)}),
