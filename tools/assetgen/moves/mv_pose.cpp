@@ -1,5 +1,6 @@
 #include "moves/mv_pose.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace mv {
@@ -50,6 +51,9 @@ mot::Pose Pose_Scale(const mot::Pose& from, const mot::Pose& p, float k) {
   out.root = from.root + (p.root - from.root) * k;
   for (int part = 0; part < 22; ++part)
     for (int a = 0; a < 3; ++a) out.ang[part][a] = from.ang[part][a] + (p.ang[part][a] - from.ang[part][a]) * k;
+  // Pushed further, a straight arm or leg would bend backward: hinges stop at straight.
+  for (int elbow : {6, 12}) out.ang[elbow][0] = std::min(out.ang[elbow][0], 0.0f);
+  for (int knee : {9, 15}) out.ang[knee][0] = std::max(out.ang[knee][0], 0.0f);
   return out;
 }
 

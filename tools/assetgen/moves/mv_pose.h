@@ -19,7 +19,8 @@ mot::Pose Pose_With(const mot::Pose& base, std::initializer_list<Turn> turns, fi
 // The same pose done with the other side of the body: right and left limbs exchange their
 // turns, and every turn about the vertical and the forward axis changes sense.
 mot::Pose Pose_Mirror(const mot::Pose& p);
-// `p` pushed further from (k > 1) or pulled back toward (k < 1) `from`.
+// `p` pushed further from (k > 1) or pulled back toward (k < 1) `from`; elbows and knees never
+// pass straight.
 mot::Pose Pose_Scale(const mot::Pose& from, const mot::Pose& p, float k);
 // The pose with the whole body turned `deg` about the vertical (a spin), hips kept in place.
 mot::Pose Pose_Spun(const mot::Pose& p, float deg);
