@@ -255,6 +255,44 @@ TEST_F(OwnMoves, AttacksReachTheDistancesTheComputerPlaysThemFrom) {
   }
 }
 
+// The lowest point of fighter 0's mesh (hair, limbs, hands; props left out) on frame `fr`.
+float Lowest(const fig::Model& model, int fr) {
+  Fighter& f = fighters[0];
+  f.first_part = 2;
+  f.last_part = 21;
+  f.frame = fr;
+  Pose_Fighter(0);
+  float low = 1e9f;
+  for (int i = 1; i <= model.vertex_count; ++i) {
+    const fig::Vertex& v = model.vertices[i];
+    if (v.part < 2 || v.part > 18) continue;
+    float out[3];
+    Mat_Apply(&Anim.Pose[0][v.part], v.x, v.y, v.z, &out[0], &out[1], &out[2]);
+    low = std::min(low, out[1]);
+  }
+  return low;
+}
+
+// Standing and lying are drawn with the same standing offset, so a fallen fighter of any build
+// lies on the floor its soles stand on: not sunk into it, not floating above it.
+TEST_F(OwnMoves, FallenFightersLieOnTheFloor) {
+  if (!real_shared_) GTEST_SKIP() << "needs the generated shared motions";
+  for (int c = 0; c < fig::kCharacters; ++c) {
+    SCOPED_TRACE(c);
+    Load_Character(c);
+    auto model = std::make_unique<fig::Model>();
+    fig::TextureLayout layout;
+    ASSERT_TRUE(fig::Fig_BuildModel(c, *model, layout));
+    const Fighter& f = fighters[0];
+    const float floor = Lowest(*model, f.act_first[0]);
+    for (int a : {50, 51, 161, 162}) {
+      const float low = Lowest(*model, f.act_last[a]);
+      EXPECT_GT(low, floor - 0.25f) << "action " << a;
+      EXPECT_LT(low, floor + 0.5f) << "action " << a;
+    }
+  }
+}
+
 TEST_F(OwnMoves, TheOpeningPlaysItsWholeScriptWithoutBlows) {
   for (int side = 0; side < 2; ++side) {
     SCOPED_TRACE(side);

@@ -105,7 +105,7 @@ void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out) {
         bf.offset = bf.offset + shift;
       }
       float t = static_cast<float>(s) / n;
-      bf.offset.y += ph.arc * 4.0f * t * (1.0f - t);
+      bf.offset.y += ph.arc * 4.0f * t * (1.0f - t) + mo.lift;
       if (ph.link) bf.part = 1;
       if (ph.strike_part >= 2) {
         bf.part = static_cast<std::int16_t>(ph.strike_part);

@@ -42,6 +42,7 @@ struct Motion {
   Phase phases[kMaxPhases];
   int phase_count;
   bool grounded = true;  // keep the lower foot on the floor (the hips drop as the knees bend)
+  float lift = 0;        // raises every frame (for actions the fight draws without the standing offset)
 };
 
 struct BakedFrame {

@@ -9,6 +9,8 @@
 #include <deque>
 
 #include "fight/fight_moves.h"
+#include "figures/fig_figure.h"
+#include "motion/mot_shared.h"
 #include "moves/mv_arch.h"
 #include "moves/mv_holds.h"
 #include "moves/mv_pose.h"
@@ -277,6 +279,15 @@ bool Has_Action(const std::vector<Move>& moves, int action) {
   return false;
 }
 
+// Command throws and their later stages: the thrower is not held, so it keeps its standing offset.
+bool Is_CommandThrow(int hold) {
+  for (const CommandThrow& t : CommandThrow_Table)
+    if (t.hold == hold) return true;
+  for (const ForcedReaction& f : ForcedReaction_Table)
+    if (f.hold == hold) return true;
+  return false;
+}
+
 // The holds this character's moves lead into: its hit-grabs, command throws and forced stages.
 void Add_Holds(int character, const Style& st, std::vector<Move>& out) {
   std::vector<int> holds;
@@ -286,22 +297,54 @@ void Add_Holds(int character, const Style& st, std::vector<Move>& out) {
     if (t.character == character) holds.push_back(t.hold);
   if (character == 7)
     for (const ForcedReaction& f : ForcedReaction_Table) holds.push_back(f.hold);
-  for (int h : holds)
-    if (!Has_Action(out, h)) out.push_back(Build_Hold(h, Hold_ScriptOf(h), true, st));
+  for (int h : holds) {
+    if (Has_Action(out, h)) continue;
+    Move mv = Build_Hold(h, Hold_ScriptOf(h), true, st);
+    if (!Is_CommandThrow(h)) mv.motion.lift = fig::Fig_StandingOffset(character);
+    out.push_back(std::move(mv));
+  }
 }
 
 // Every held reaction: one motion per script, shared by the held actions that play it.
-void Add_Held(const Style& st, std::vector<Move>& out) {
+void Add_Held(int character, const Style& st, std::vector<Move>& out) {
   int first_of[static_cast<int>(HoldScript::Count)];
   for (int& f : first_of) f = -1;
   for (const HoldPair& p : kHoldPairs) {
     HoldScript s = Hold_ScriptOf(p.hold);
     int& first = first_of[static_cast<int>(s)];
     Move mv = Build_Hold(p.held, s, false, st);
+    mv.motion.lift = fig::Fig_StandingOffset(character);
     if (first >= 0) mv.share = first;
     else first = static_cast<int>(out.size());
     out.push_back(std::move(mv));
   }
+}
+
+// Lying on the floor, and the motions that end or start there. The game refits the shared
+// frames to a body from the chest outward, so a lying body would sit as much too high or too low
+// as the character's legs are longer or shorter than the reference's; these actions are played
+// from the character's own frames, baked on its own skeleton, where the floor is its own.
+constexpr int kFloorActions[] = {50,  51,  55,  56,  57,  143, 144, 147, 148, 157, 158, 161, 162, 163,
+                                 164, 165, 166, 167, 171, 172, 173, 174, 175};
+
+// A thrown fighter is drawn without its standing offset; a character whose offset is large plays
+// the thrown reactions from its own frames, raised by it, so its feet stay on the floor.
+constexpr float kThrownOffsetLimit = 0.3f;
+
+void Add_Floor(int character, std::vector<Move>& out) {
+  auto own_copy = [&](int action, float lift) {
+    const mot::Motion* shared = mot::Mot_SharedByAction(action);
+    if (shared == nullptr || Has_Action(out, action)) return;
+    Move mv;
+    mv.action = action;
+    mv.motion = *shared;
+    mv.motion.lift = lift;
+    out.push_back(mv);
+  };
+  for (int action : kFloorActions) own_copy(action, 0);
+  const float offset = fig::Fig_StandingOffset(character);
+  if (std::fabs(offset) >= kThrownOffsetLimit)
+    for (int action = 82; action <= 101; ++action) own_copy(action, offset);
 }
 
 }  // namespace
@@ -323,7 +366,8 @@ void Mv_CharacterMoves(int character, std::vector<Move>& out) {
   attack(Row{242, Arch::LowKick, 8, 0, false});
   out.push_back(Build_Move(12, st, Row{12, st.win1, 0, 0, false}));
   out.push_back(Build_Move(13, st, Row{13, st.win2, 0, 0, false}));
-  Add_Held(st, out);
+  Add_Held(character, st, out);
+  Add_Floor(character, out);
 }
 
 Move Mv_StyledMove(int character, int action, int arch, int main_hit, int finish_hit, bool mirror) {
