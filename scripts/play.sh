@@ -5,4 +5,4 @@ source "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 install_packages
 build_game -DVALDRUNE_BENCH=OFF
 cd "$ROOT/build/data" 2>/dev/null || { mkdir -p "$ROOT/build/data" && cd "$ROOT/build/data"; }
-exec "$ROOT/build/valdrune"
+exec "$ROOT/build/valdrune" "$@"
