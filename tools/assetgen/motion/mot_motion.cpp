@@ -92,6 +92,7 @@ void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out) {
     const bool planted = ph.plant == 10 || ph.plant == 16;
     Vec3 spot{}, shift{};
     if (planted) spot = Mot_PosedJoint(j, m, ph.plant) + (out.empty() ? Vec3{} : out.back().offset);
+    const float paced = -mo.pace;  // where the fight's own walking leaves a planted foot, per frame
     for (int s = 1; s <= n; ++s) {
       Pose p;
       const float e = Mot_Ease(ph.ease, s, n);
@@ -101,7 +102,7 @@ void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out) {
       bf.offset = travelled + ph.travel * Mot_Ease(Ease::InOut, s, n);
       if (planted) {  // the foot goes only where the phase's own travel takes it
         Vec3 now = Mot_PosedJoint(j, m, ph.plant) + travelled;
-        shift = {spot.x - now.x, 0, spot.z - now.z};
+        shift = {spot.x - now.x, 0, spot.z + paced * s - now.z};
         bf.offset = bf.offset + shift;
       }
       float t = static_cast<float>(s) / n;

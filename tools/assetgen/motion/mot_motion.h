@@ -43,6 +43,8 @@ struct Motion {
   int phase_count;
   bool grounded = true;  // keep the lower foot on the floor (the hips drop as the knees bend)
   float lift = 0;        // raises every frame (for actions the fight draws without the standing offset)
+  float pace = 0;        // units a frame the fight itself carries the body forward (+z) while this plays:
+                         // a planted foot slides back by as much, so it stays put on the floor
 };
 
 struct BakedFrame {
