@@ -107,10 +107,12 @@ constexpr Pose kDashBack = With(kStance, {{4, -8, 28, 0},   {3, -6, 12, 0},  {2,
                                           {14, -40, -8, -4}, {15, 50, 0, 0}, {8, 20, -6, 6}, {9, 60, 0, 0},
                                           {11, -30, 0, -30}, {5, -10, 0, 40}});
 
-// Turning round: the whole figure spun half a turn on its hips.
-constexpr Pose kTurnMid = Plus(kStance, {{4, 0, 90, 0}, {9, 30, 0, 0}, {15, 10, 0, 0}, {3, 6, 0, 0}});
+// Turning round on the ball of the lead foot: the rear foot is lifted and swung round to land
+// behind again, facing the other way.
+constexpr Pose kTurnMid = Plus(kStance, {{4, 0, 90, 0}, {8, -30, 0, 0}, {9, 50, 0, 0}, {15, 6, 0, 0}, {3, 6, 0, 0}});
 constexpr Pose kTurned = Plus(kStance, {{4, 0, 180, 0}});
-constexpr Pose kCrouchTurnMid = Plus(kCrouch, {{4, 0, 90, 0}, {3, 4, 0, 0}});
+constexpr Pose kTurnLand = Plus(Mix(kTurnMid, kTurned, 0.9f), {{8, -8, 0, 0}, {9, 16, 0, 0}});
+constexpr Pose kCrouchTurnMid = Plus(kCrouch, {{4, 0, 90, 0}, {8, -10, 0, 0}, {9, 12, 0, 0}, {3, 4, 0, 0}});
 constexpr Pose kCrouchTurned = Plus(kCrouch, {{4, 0, 180, 0}});
 
 constexpr fig::Vec3 kDashHop{0, 0, 4.2f}, kDashAway{0, 0, -4.4f};
@@ -133,8 +135,11 @@ constexpr Motion kMotions[] = {
     M("dash_back", 4, &kStance,
       {P(&kDashLoad, 3, Ease::Out), Arc(P(&kDashBack, 10, Ease::Out, kDashAway), 0.55f),
        Cue(P(&kStance, 7, Ease::InOut), kCueLand)}),
-    M("turn", 7, &kStance, {P(&kTurnMid, 5, Ease::In), Cue(P(&kTurned, 5, Ease::Out), kCueStep)}),
-    M("turn_crouching", 36, &kCrouch, {P(&kCrouchTurnMid, 5, Ease::In), P(&kCrouchTurned, 5, Ease::Out)}),
+    M("turn", 7, &kStance,
+      {Plant(P(&kTurnMid, 4, Ease::In), 16), Plant(P(&kTurnLand, 4, Ease::Out), 16),
+       Cue(Plant(P(&kTurned, 2, Ease::Linear), 16), kCueStep)}),
+    M("turn_crouching", 36, &kCrouch,
+      {Plant(P(&kCrouchTurnMid, 5, Ease::In), 16), Plant(P(&kCrouchTurned, 5, Ease::Out), 16)}),
     // Held on its fifth frame while the guard lasts.
     M("guard", 8, &kStance, {P(&kGuard, 4, Ease::Out), P(&kGuard, 8, Ease::Linear), P(&kStance, 6)}),
     M("guard_crouching", 35, &kCrouch,
