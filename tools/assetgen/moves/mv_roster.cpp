@@ -327,9 +327,10 @@ void Add_Held(int character, const Style& st, std::vector<Move>& out) {
 constexpr int kFloorActions[] = {50,  51,  55,  56,  57,  143, 144, 147, 148, 157, 158, 161, 162, 163,
                                  164, 165, 166, 167, 171, 172, 173, 174, 175};
 
-// A thrown fighter is drawn without its standing offset; a character whose offset is large plays
-// the thrown reactions from its own frames, raised by it, so its feet stay on the floor.
-constexpr float kThrownOffsetLimit = 0.3f;
+// A thrown fighter is drawn without its standing offset; every character that has one plays the
+// thrown reactions from its own frames, raised by it, so it is held at the height it stood at and
+// lands on its own floor.
+constexpr float kThrownOffsetLimit = 0.05f;
 
 void Add_Floor(int character, std::vector<Move>& out) {
   auto own_copy = [&](int action, float lift) {
