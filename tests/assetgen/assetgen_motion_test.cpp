@@ -126,4 +126,45 @@ TEST(AssetgenMotion, EasingAndBakingAreExact) {
   EXPECT_EQ(0, std::memcmp(&Bake(crouch)[3].key, &a[3].key, sizeof(KeyFrame)));
 }
 
+// The fight walks a fighter 0.24 units a frame forward and 0.2 back; a foot on the floor must
+// slide back by exactly that in model space, or the fighter skates. The loop also has to end
+// where it began, or the body jumps at every restart.
+TEST(AssetgenMotion, WalkingFeetStayWhereTheyLand) {
+  Joints j;
+  Mot_JointsOf(fig::Fig_ReferenceSkeleton(), j);
+  const float floor = j.at[10].y - 0.42f;
+  const struct {
+    int action;
+    float speed;
+  } kWalks[] = {{1, 0.24f}, {2, -0.2f}, {25, 0.24f}, {26, -0.2f}, {33, 0.24f}, {34, -0.2f}};
+  for (const auto& w : kWalks) {
+    SCOPED_TRACE(w.action);
+    std::vector<BakedFrame> frames = Bake(*Mot_SharedByAction(w.action));
+    Vec3 was[2];
+    bool down_before[2] = {false, false};
+    int planted = 0;
+    for (std::size_t f = 0; f < frames.size(); ++f) {
+      PartMatrix pm[22];
+      Mot_Unpack(frames[f].key, pm);
+      for (int k = 0; k < 2; ++k) {
+        const int foot = k ? 16 : 10;
+        const Vec3 ankle = j.at[foot];
+        float sole = 1e9f;
+        for (float dz : {-0.34f, 1.0f}) sole = std::min(sole, Carry(pm[foot], {ankle.x, ankle.y - 0.42f, ankle.z + dz}).y);
+        const bool down = sole + frames[f].offset.y < floor + 0.05f;
+        Vec3 at = Mot_PosedJoint(j, pm, foot) + frames[f].offset;
+        at.z += w.speed * static_cast<float>(f);
+        if (down && down_before[k]) {
+          EXPECT_LT(std::hypot(at.x - was[k].x, at.z - was[k].z), 0.06f) << "frame " << f << " foot " << foot;
+          ++planted;
+        }
+        was[k] = at;
+        down_before[k] = down;
+      }
+    }
+    EXPECT_GT(planted, static_cast<int>(frames.size()) / 2);
+    EXPECT_LT(Length(frames.back().offset), 0.25f);
+  }
+}
+
 }  // namespace

@@ -3,6 +3,7 @@
 // character's frames must fit beside them.
 #include <cstdio>
 #include <cstring>
+#include <memory>
 #include <string>
 
 #include "assetgen.h"
@@ -66,10 +67,17 @@ bool Write_Character(const Context& ctx, int c, int shared_frames) {
   mv::Mv_CharacterMoves(c, moves);
   fig::Skeleton skel;
   fig::Fig_BuildSkeleton(c, skel);
+  // The body itself sets where the floor is under a fighter lying or crouching.
+  auto model = std::make_unique<fig::Model>();
+  fig::TextureLayout layout;
+  if (!fig::Fig_BuildModel(c, *model, layout)) {
+    std::fprintf(stderr, "assetgen: character %d: the model does not fit\n", c);
+    return false;
+  }
   mv::OwnFiles files;
   std::string error;
   const char* anim = fig::Fig_AnimFile(c);
-  if (!mv::Mv_Bake(moves, skel, files, &error)) {
+  if (!mv::Mv_Bake(moves, skel, model.get(), files, &error)) {
     std::fprintf(stderr, "assetgen: %s: %s\n", anim, error.c_str());
     return false;
   }

@@ -52,15 +52,22 @@ float Mot_SoleDrop(const Joints& j, const PartMatrix m[22]) {
   return low;
 }
 
+float Mot_MeshLow(std::span<const MeshPoint> mesh, const PartMatrix m[22]) {
+  float low = 1e9f;
+  for (const MeshPoint& v : mesh) low = std::min(low, Apply(m[v.part].r, v.at).y + m[v.part].t.y);
+  return low;
+}
+
 namespace {
 
 // Solves and packs one frame; `m` keeps the solved parts.
 void Bake_Pose(const Motion& mo, const Joints& j, const Pose& pose, BakedFrame& f, float rest_sole,
-               PartMatrix m[22], float ground = 1) {
+               PartMatrix m[22], float ground, const Floor* floor) {
   Pose p = pose;
   if (mo.grounded && ground > 0) {
     Mot_Solve(j, p, m);
-    p.root.y += (rest_sole - Mot_SoleDrop(j, m)) * ground;
+    const float low = floor ? Mot_MeshLow(floor->mesh, m) : Mot_SoleDrop(j, m);
+    p.root.y += (rest_sole - low) * ground;
   }
   Mot_Solve(j, p, m);
   Mot_Pack(m, f.key);
@@ -74,15 +81,15 @@ int Mot_Length(const Motion& mo) {
   return n;
 }
 
-void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out) {
-  float rest_sole = j.at[10].y - 0.42f;
+void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out, const Floor* floor) {
+  const float rest_sole = floor ? floor->rest : j.at[10].y - 0.42f;
   const Pose* from = mo.start;
   float from_ground = 1;
   Vec3 travelled{};
   PartMatrix m[22];
   {
     BakedFrame start{};
-    Bake_Pose(mo, j, *mo.start, start, rest_sole, m);
+    Bake_Pose(mo, j, *mo.start, start, rest_sole, m, 1, floor);
   }
   for (int i = 0; i < mo.phase_count; ++i) {
     const Phase& ph = mo.phases[i];
@@ -92,16 +99,17 @@ void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out) {
     const bool planted = ph.plant == 10 || ph.plant == 16;
     Vec3 spot{}, shift{};
     if (planted) spot = Mot_PosedJoint(j, m, ph.plant) + (out.empty() ? Vec3{} : out.back().offset);
+    const float paced = -mo.pace;  // where the fight's own walking leaves a planted foot, per frame
     for (int s = 1; s <= n; ++s) {
       Pose p;
       const float e = Mot_Ease(ph.ease, s, n);
       Mot_Blend(*from, *ph.pose, e, p);
       BakedFrame bf{};
-      Bake_Pose(mo, j, p, bf, rest_sole, m, from_ground + (ph.ground - from_ground) * e);
+      Bake_Pose(mo, j, p, bf, rest_sole, m, from_ground + (ph.ground - from_ground) * e, floor);
       bf.offset = travelled + ph.travel * Mot_Ease(Ease::InOut, s, n);
       if (planted) {  // the foot goes only where the phase's own travel takes it
         Vec3 now = Mot_PosedJoint(j, m, ph.plant) + travelled;
-        shift = {spot.x - now.x, 0, spot.z - now.z};
+        shift = {spot.x - now.x, 0, spot.z + paced * s - now.z};
         bf.offset = bf.offset + shift;
       }
       float t = static_cast<float>(s) / n;

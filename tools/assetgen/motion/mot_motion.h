@@ -4,6 +4,7 @@
 // frame.
 #pragma once
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "motion/mot_pose.h"
@@ -43,6 +44,8 @@ struct Motion {
   int phase_count;
   bool grounded = true;  // keep the lower foot on the floor (the hips drop as the knees bend)
   float lift = 0;        // raises every frame (for actions the fight draws without the standing offset)
+  float pace = 0;        // units a frame the fight itself carries the body forward (+z) while this plays:
+                         // a planted foot slides back by as much, so it stays put on the floor
 };
 
 struct BakedFrame {
@@ -58,8 +61,24 @@ float Mot_Ease(Ease e, int i, int n);
 void Mot_Blend(const Pose& a, const Pose& b, float f, Pose& out);
 // The rest foot's lowest point on these joints; grounded poses keep the lower sole there.
 float Mot_SoleDrop(const Joints& joints, const PartMatrix m[22]);
-// Bakes the motion on the given joints (the reference skeleton for shared motions).
-void Mot_Bake(const Motion& motion, const Joints& joints, std::vector<BakedFrame>& out);
+
+// A character's own body as the floor sees it: its mesh points (model space, by part) and the
+// height of the lowest of them while it stands. Baking on it sets the lowest point of every
+// grounded frame on that floor, so a body lying down rests on its own flesh, not on estimates.
+struct MeshPoint {
+  int part;
+  fig::Vec3 at;
+};
+struct Floor {
+  std::span<const MeshPoint> mesh;
+  float rest = 0;
+};
+float Mot_MeshLow(std::span<const MeshPoint> mesh, const PartMatrix m[22]);
+
+// Bakes the motion on the given joints (the reference skeleton for shared motions), on the
+// body's own floor when one is given.
+void Mot_Bake(const Motion& motion, const Joints& joints, std::vector<BakedFrame>& out,
+              const Floor* floor = nullptr);
 int Mot_Length(const Motion& motion);
 
 }  // namespace mot

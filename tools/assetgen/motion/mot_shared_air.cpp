@@ -19,12 +19,13 @@ constexpr Pose kJumpUp = With(kStance, {{4, -4, 20, 0},   {3, -4, 8, 0},  {2, -2
 constexpr Pose kJumpTuck = With(kStance, {{4, 0, 24, 0},     {3, 16, 12, 0},   {2, -10, -36, 0},
                                           {14, -100, -8, -4}, {15, 120, 0, 0}, {16, 10, 10, 0},
                                           {8, -80, -6, 6},   {9, 110, 0, 0},   {10, 10, 0, 0}});
-constexpr Pose kFlipTuck = Plus(kJumpTuck, {{4, 180, 0, 0}, {3, 10, 0, 0}, {14, -20, 0, 0}, {8, -20, 0, 0}});
-constexpr Pose kFlipOpen = Plus(kJumpUp, {{4, 330, 0, 0}});
+// The diagonal jump leans into a tuck and strides through the air: a jump attack can start from
+// any frame of it without the body snapping round (a somersault could not be joined that way).
+constexpr Pose kLeapTuck = Plus(kJumpTuck, {{4, 24, 0, 0}, {3, 10, 0, 0}, {2, -16, 0, 0}, {11, -30, 0, 0}, {5, -20, 0, 0}});
+constexpr Pose kLeapStride = Plus(kJumpUp, {{4, 12, 0, 0},  {14, -50, 0, 0}, {15, 50, 0, 0}, {8, 36, 0, 0},
+                                            {9, 60, 0, 0},  {11, 30, 0, 0},  {5, -40, 0, 0}});
 constexpr Pose kJumpReach = Plus(kJumpUp, {{14, -20, 0, 0}, {15, 20, 0, 0}, {8, -10, 0, 0}, {9, 14, 0, 0}});
 constexpr Pose kJumpLand = With(kJumpLoad, {{4, 18, 28, 0}, {3, 20, 12, 0}, {11, -20, 0, -30}, {5, 0, 0, 34}});
-constexpr Pose kFlipLand = Plus(kJumpLand, {{4, 360, 0, 0}});
-constexpr Pose kFlipStance = Plus(kStance, {{4, 360, 0, 0}});
 
 // ---- the floor ------------------------------------------------------------------------------
 constexpr Pose kRollBack = Make({{4, -150, 20, 0},   {3, 30, 0, 0},   {2, 30, -20, 0},
@@ -82,9 +83,9 @@ constexpr Motion kMotions[] = {
        Air(P(&kJumpTuck, 8, Ease::Linear)), P(&kJumpReach, 8, Ease::InOut), Cue(P(&kJumpLand, 3, Ease::In), kCueLand),
        P(&kStance, 8, Ease::InOut)}),
     M("jump_diagonal", 21, &kStance,
-      {P(&kJumpLoad, 5, Ease::Out), Air(Cue(P(&kJumpUp, 4, Ease::Out), kCueSwing)), Air(P(&kFlipTuck, 10, Ease::InOut)),
-       Air(P(&kFlipOpen, 10, Ease::InOut)), Air(P(&kFlipOpen, 4, Ease::Linear)), Cue(P(&kFlipLand, 3, Ease::In), kCueLand),
-       P(&kFlipStance, 8, Ease::InOut)}),
+      {P(&kJumpLoad, 5, Ease::Out), Air(Cue(P(&kJumpUp, 4, Ease::Out), kCueSwing)), Air(P(&kLeapTuck, 10, Ease::InOut)),
+       Air(P(&kLeapStride, 10, Ease::InOut)), P(&kJumpReach, 4, Ease::InOut), Cue(P(&kJumpLand, 3, Ease::In), kCueLand),
+       P(&kStance, 8, Ease::InOut)}),
     // Held on their first frame while the fighter stays down.
     M("lying_back", 50, &kLyingUp, {P(&kLyingUp, 8, Ease::Linear)}),
     M("lying_face", 51, &kLyingDown, {P(&kLyingDown, 8, Ease::Linear)}),

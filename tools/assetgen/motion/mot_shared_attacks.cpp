@@ -136,9 +136,10 @@ constexpr Pose kBurstOut = With(kStance, {{4, 4, 0, 0},     {3, 10, 0, 0},   {2,
                                           {5, -90, 10, 0},  {6, -6, 0, 0},   {7, -70, 0, 0},
                                           {14, -50, 0, -4}, {15, 30, 0, 0},  {8, 30, 0, 6}, {9, 30, 0, 0}});
 constexpr Pose kRiseSpin = With(kKneel, {{4, 0, 90, 0}, {3, 20, 0, 0}, {11, -40, 0, -40}, {5, -40, 0, 40}});
-constexpr Pose kRiseKick = With(kStance, {{4, -30, 200, 0},  {3, -10, 10, 0}, {2, 14, 150, 0},
-                                          {8, -90, -180, 20}, {9, 6, 0, 0},   {10, 30, 0, 0},
-                                          {14, -30, -8, -6}, {15, 60, 0, 0}, {11, -40, 0, -50}, {5, -40, 0, 50}});
+// Turned away, the trunk tipped forward and the right leg driven straight back at head height.
+constexpr Pose kRiseKick = With(kStance, {{4, 25, 180, 0},   {3, 10, 0, 0},    {2, -30, 150, 0},
+                                          {8, 80, 0, 10},   {9, 6, 0, 0},     {10, 30, 0, 0},
+                                          {14, -20, -8, -6}, {15, 30, 0, 0},   {11, -40, 0, -50}, {5, -40, 0, 50}});
 constexpr Pose kParry = With(kStance, {{3, 0, 20, 0},     {2, 0, -40, 0},
                                        {11, -80, -30, 0}, {12, -40, 0, 0}, {13, -60, 0, 0},
                                        {5, -60, 20, 0},   {6, -70, 0, 0},  {7, -60, 0, 0},
@@ -228,8 +229,8 @@ constexpr Motion kMotions[] = {
        P(&kStance, 10)}),
     // Up off the floor into a spinning kick.
     M("ground_counter", 522, &kKneel,
-      {Cue(P(&kRiseSpin, 8, Ease::Out), kCueShout), Cue(Plant(P(&kRiseKick, 6, Ease::Snap, Z(0.9f)), 16), kCueHeavy),
-       Hit(&kRiseKick, 4, 10, kHitHeavy), Plant(P(&kHeelHome, 12, Ease::InOut, Z(-0.9f)), 16), P(&kHeelHome, 16, Ease::Linear)}),
+      {Cue(P(&kRiseSpin, 8, Ease::Out), kCueShout), Cue(Plant(P(&kRiseKick, 6, Ease::Snap, Z(2.2f)), 16), kCueHeavy),
+       Hit(&kRiseKick, 4, 10, kHitHeavy), Plant(P(&kHeelHome, 12, Ease::InOut, Z(-2.2f)), 16), P(&kHeelHome, 16, Ease::Linear)}),
     // The parry: open hands waiting for a blow.
     M("counter_stance", 138, &kStance,
       {P(&kParry, 4, Ease::Snap), P(&kParry, 14, Ease::Linear), P(&kStance, 10)}),

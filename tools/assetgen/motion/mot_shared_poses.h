@@ -16,19 +16,19 @@ inline constexpr Pose kStanceIn = With(kStance, {{3, 5, 12, 0}, {2, -6, -36, 0},
 inline constexpr Pose kStanceOut = With(kStance, {{3, 11, 12, 0}, {2, -2, -36, 0}, {15, 36, 0, 0}, {9, 32, 0, 0},
                                                   {14, -30, -8, -4}, {8, 12, -6, 6}});
 
-// Low stance (stance 23): wide, deep, lead hand open and forward.
+// Low stance (stance 23): wide, deep, lead hand open and forward, the rear leg long behind.
 inline constexpr Pose kLow = Make({{4, 6, 40, 0},      {3, 12, 10, 0},    {2, -10, -46, 0},
                                    {11, -70, 10, -8},  {12, -40, 20, 0},  {13, -20, 0, 0},
                                    {5, -10, 0, 30},    {6, -100, -30, 0}, {7, 10, 0, 0},
                                    {14, -40, -10, -14}, {15, 48, 0, 0},   {16, -8, 12, 0},
-                                   {8, 18, -8, 16},    {9, 44, 0, 0},     {10, -30, 0, 0}});
-inline constexpr Pose kLowIn = With(kLow, {{3, 9, 10, 0}, {11, -72, 10, -10}, {15, 44, 0, 0}, {9, 40, 0, 0}});
-inline constexpr Pose kLowOut = With(kLow, {{3, 15, 10, 0}, {15, 54, 0, 0}, {9, 50, 0, 0}, {14, -44, -10, -14}});
+                                   {8, 28, -8, 8},     {9, 4, 0, 0},      {10, -14, 0, 0}});
+inline constexpr Pose kLowIn = With(kLow, {{3, 9, 10, 0}, {11, -72, 10, -10}, {15, 44, 0, 0}, {9, 2, 0, 0}});
+inline constexpr Pose kLowOut = With(kLow, {{3, 15, 10, 0}, {15, 54, 0, 0}, {9, 8, 0, 0}, {14, -44, -10, -14}});
 
-// Crouching: knees deep, trunk forward, guard kept.
+// Crouching: knees deep, trunk forward, guard kept, the rear foot on its ball.
 inline constexpr Pose kCrouch = With(kStance, {{4, 20, 28, 0},    {3, 16, 12, 0},  {2, -20, -36, 0},
                                                {14, -88, -8, -6}, {15, 116, 0, 0}, {16, -26, 10, 0},
-                                               {8, -40, -6, 10},  {9, 128, 0, 0},  {10, -60, 0, 0}});
+                                               {8, -40, -6, 10},  {9, 106, 0, 0},  {10, -66, 0, 0}});
 inline constexpr Pose kCrouchIn = Plus(kCrouch, {{3, -4, 0, 0}, {2, 3, 0, 0}, {11, -4, 0, -3}, {5, -3, 0, 4}});
 
 // Guard: forearms closed in front of the face, weight back.

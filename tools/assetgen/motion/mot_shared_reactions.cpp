@@ -48,16 +48,28 @@ constexpr Pose kKneesDrop = With(kKneel, {{4, 10, 0, 0},   {3, 40, 0, 0},    {2,
                                           {8, -70, 0, 6},   {9, 150, 0, 0},  {10, 30, 0, 0},
                                           {11, -20, 0, -10}, {12, -40, 0, 0}, {5, -20, 0, 10}, {6, -40, 0, 0}});
 constexpr Pose kSitDown = With(kSitUp, {{3, 10, 0, 0}, {2, 20, 0, 0}, {11, -60, 0, -40}, {5, -60, 0, 40}});
-constexpr Pose kSpinFall = Plus(kFallBack, {{4, 0, 120, 0}, {3, 10, 10, 0}});
-constexpr Pose kSpinFallLeft = Plus(kFallBack, {{4, 0, -110, 0}, {2, 20, -20, 0}});
+// The spinning falls turn all the way round in the air, so the body lands already facing
+// where it lies instead of sweeping round on the floor.
+constexpr Pose kSpinFall = Plus(kFallBack, {{4, 0, 360, 0}, {3, 10, 10, 0}});
+constexpr Pose kSpinFallLeft = Plus(kFallBack, {{4, 0, -360, 0}, {2, 20, -20, 0}});
+constexpr Pose kLyingSpun = Plus(kLyingUp, {{4, 0, 360, 0}});
+constexpr Pose kLyingSpunLeft = Plus(kLyingUp, {{4, 0, -360, 0}});
 constexpr Pose kSweptAir = Make({{4, -80, 20, 0},   {3, 20, 0, 0},    {2, 20, -20, 0},
                                  {11, -90, 0, -50}, {12, -40, 0, 0},  {5, -90, 0, 50}, {6, -40, 0, 0},
                                  {14, -60, 0, -6},  {15, 30, 0, 0},   {8, -40, 0, 6},  {9, 20, 0, 0}});
 constexpr Pose kSweptSpin = Plus(kSweptAir, {{4, 0, 100, 0}, {14, -20, 0, 0}});
 constexpr Pose kFallBackTurn = Plus(kFallBack, {{4, 0, -50, 0}, {3, 10, 0, 0}, {2, 10, 30, 0}});
 constexpr Pose kAirBackTwist = Plus(kAirBackHigh, {{4, 0, 50, 0}, {3, 0, 10, 0}});
-constexpr Pose kKoTwist = Plus(kHurtSide, {{4, 0, 60, 0}, {2, 20, 30, 0}, {9, 30, 0, 0}, {15, 30, 0, 0}});
-constexpr Pose kKoFall = Plus(kFallBack, {{4, 0, 150, 0}, {11, -30, 0, 0}, {5, 20, 0, 0}});
+// The beaten fighter is drawn with its right foot pinned to the floor, so that foot stays down
+// while the body twists round it and falls back (it gives ground slowly as the body goes, so the
+// fighter does not come to lie under the winner); lying, the leg rolls outward and the foot rests
+// on its side at the height it stood at.
+constexpr Pose kKoTwist = Plus(kHurtSide, {{4, 0, 60, 0}, {2, 20, 30, 0}, {15, 50, 0, 0}, {14, -20, 0, 0}});
+constexpr Pose kKoFall = Make({{4, -45, 150, 0},   {3, -20, 0, 0},  {2, -25, 0, 0},
+                               {11, -150, 0, -40}, {12, -30, 0, 0}, {5, -100, 0, 40}, {6, -30, 0, 0},
+                               {8, 40, 0, 6},      {9, 20, 0, 0},   {10, -10, 0, 0},
+                               {14, -40, 0, -6},   {15, 60, 0, 0}});
+constexpr Pose kLyingBeaten = With(kLyingUpTurned, {{8, -4, 45, 10}, {10, 40, 0, 0}});
 
 constexpr fig::Vec3 Z(float z) { return {0, 0, z}; }
 
@@ -69,12 +81,13 @@ constexpr Motion Recoil(const char* name, int action, const Pose* hurt, int hold
 constexpr Motion CrouchRecoil(const char* name, int action, const Pose* hurt, int hold, int back) {
   return M(name, action, &kCrouch, {P(hurt, 3, Ease::Snap), P(hurt, hold, Ease::Linear), P(&kCrouch, back)});
 }
-// Knocked off the feet through `air`, landing in `lying` `away` units back.
+// Knocked off the feet through `air`, landing in `lying` `away` units back. With a `pivot` foot
+// (10 or 16) that foot comes down first and stays where it lands while the body settles round it.
 constexpr Motion Knockdown(const char* name, int action, const Pose* hit, const Pose* air, const Pose* lying,
-                           float away, float height) {
+                           float away, float height, int pivot = 0) {
   return M(name, action, &kStance,
            {P(hit, 4, Ease::Snap, Z(-away * 0.15f)), Arc(P(air, 14, Ease::In, Z(-away * 0.6f)), height),
-            Impact(Cue(P(lying, 8, Ease::In, Z(-away * 0.25f)), kCueFall)), P(lying, 18, Ease::Linear)});
+            Impact(Cue(Plant(P(lying, 8, Ease::In, Z(-away * 0.25f)), pivot), kCueFall)), P(lying, 18, Ease::Linear)});
 }
 // Launched: the fight holds the 19th frame while the body is in the air, then it falls.
 constexpr Motion Launch(const char* name, int action, const Pose* hit, const Pose* air, const Pose* flat,
@@ -118,7 +131,7 @@ constexpr Motion kMotions[] = {
     CrouchRecoil("crouch_hit_heavy", 160, &kCrouchHurtHeavy, 8, 14),
     Knockdown("knock_down", 161, &kHurt, &kFallBack, &kLyingUp, 3.0f, 0.4f),
     Knockdown("pitch_forward", 162, &kHurtBack, &kFallForward, &kLyingDown, -1.5f, 0.3f),
-    Knockdown("spin_down", 163, &kHurtSide, &kSpinFall, &kLyingUp, 2.0f, 0.5f),
+    Knockdown("spin_down", 163, &kHurtSide, &kSpinFall, &kLyingSpun, 2.0f, 0.5f, 10),
     M("crumple_face", 164, &kStance,
       {P(&kDoubled, 5, Ease::Snap), P(&kKneesDrop, 12, Ease::In), Impact(Cue(P(&kLyingDown, 10, Ease::In), kCueFall)),
        P(&kLyingDown, 14, Ease::Linear)}),
@@ -127,8 +140,10 @@ constexpr Motion kMotions[] = {
     Launch("launched_high", 167, &kHurtHeavy, &kAirBackHigh, &kFallFlat, &kLyingUp),
     // The beaten fighter twists round as it falls; it lies head toward the winner.
     M("beaten", 170, &kStance,
-      {P(&kHurtSide, 5, Ease::Snap), P(&kKoTwist, 10, Ease::InOut), P(&kKoFall, 12, Ease::In, Z(-1.0f)),
-       Impact(Cue(P(&kLyingUpTurned, 8, Ease::In, Z(-0.6f)), kCueFall)), P(&kLyingUpTurned, 24, Ease::Linear)}),
+      {Plant(P(&kHurtSide, 5, Ease::Snap), 10), Plant(P(&kKoTwist, 10, Ease::InOut, Z(-1.2f)), 10),
+       Plant(P(&kKoFall, 12, Ease::In, Z(-1.6f)), 10),
+       Impact(Cue(Plant(P(&kLyingBeaten, 8, Ease::In, Z(-0.8f)), 10), kCueFall)),
+       P(&kLyingBeaten, 24, Ease::Linear)}),
     Knockdown("knocked_off_feet", 171, &kHurtHead, &kFallBackTurn, &kLyingUp, 1.8f, 0.8f),
     Knockdown("big_blow", 172, &kDoubled, &kAirBackTwist, &kLyingUp, 3.6f, 1.2f),
     M("swept_spinning", 173, &kStance,
@@ -138,7 +153,7 @@ constexpr Motion kMotions[] = {
       {P(&kHurtHeavy, 4, Ease::Snap, Z(-0.5f)), P(&kStumble, 8, Ease::InOut, Z(-1.0f)),
        P(&kFallBack, 10, Ease::In, Z(-1.0f)), Impact(Cue(P(&kLyingUp, 8, Ease::In, Z(-0.5f)), kCueFall)),
        P(&kLyingUp, 14, Ease::Linear)}),
-    Knockdown("twist_down", 175, &kHurtHead, &kSpinFallLeft, &kLyingUp, 1.6f, 0.3f),
+    Knockdown("twist_down", 175, &kHurtHead, &kSpinFallLeft, &kLyingSpunLeft, 1.6f, 0.3f, 10),
 };
 
 }  // namespace

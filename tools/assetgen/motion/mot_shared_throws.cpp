@@ -20,6 +20,11 @@ constexpr Pose kLift = With(kGrab, {{4, -10, 10, 0},   {3, -16, 0, 0},  {2, -20,
 constexpr Pose kHurl = With(kGrab, {{4, 20, 10, 0},   {3, 40, 0, 0},   {2, -30, -10, 0},
                                     {11, -70, 0, -10}, {12, -10, 0, 0}, {5, -70, 0, 10}, {6, -10, 0, 0},
                                     {14, -50, -8, -4}, {15, 50, 0, 0},  {8, 20, -6, 6},  {9, 30, 0, 0}});
+// The heave at the top of the throw: arms driven up and the body stretched onto its toes while the
+// victim rises off the hands, before the slam brings both down together.
+constexpr Pose kHeave = With(kLift, {{4, -14, 10, 0},   {3, -24, 0, 0},  {2, -26, -10, 0},
+                                     {11, -172, -10, 0}, {12, -14, 0, 0}, {5, -172, 10, 0}, {6, -14, 0, 0},
+                                     {15, 30, 0, 0},     {9, 30, 0, 0}});
 // From the low stance: a hip throw, turning the victim over the hip.
 constexpr Pose kGrabLow = With(kLow, {{3, 14, 0, 0},     {2, -10, -20, 0},
                                       {11, -80, -20, 0}, {12, -40, 0, 0}, {5, -80, 20, 0}, {6, -40, 0, 0}});
@@ -27,6 +32,8 @@ constexpr Pose kHipTurn = With(kGrabLow, {{4, 20, 110, 0},  {3, 20, 10, 0},  {2,
                                           {11, -100, 40, 0}, {12, -90, 0, 0}, {5, -60, 0, 30}, {6, -110, 0, 0}});
 constexpr Pose kHipHurl = With(kHipTurn, {{4, 30, 70, 0}, {3, 40, 0, 0}, {11, -40, 0, -30}, {5, -30, 0, 40},
                                           {12, -20, 0, 0}, {6, -20, 0, 0}});
+// The hip turned on through, the victim rolling over the back, before it is flung down.
+constexpr Pose kHipHeave = Plus(Mix(kHipTurn, kHipHurl, 0.3f), {{3, -12, 0, 0}, {11, -20, 0, 0}, {12, -20, 0, 0}});
 // Knocked loose: the escape shoves both apart.
 constexpr Pose kShoved = With(kStance, {{4, -6, 28, 0},    {3, -14, 12, 0},  {2, -10, -36, 0},
                                         {11, -70, 0, -50}, {12, -40, 0, 0},  {5, -70, 0, 50}, {6, -40, 0, 0},
@@ -74,11 +81,14 @@ constexpr Pose Fly(const Pose& base, float twist) { return Plus(base, {{4, 0, tw
 constexpr fig::Vec3 Y(float y, float z = 0) { return {0, y, z}; }
 constexpr fig::Vec3 Z(float z) { return {0, 0, z}; }
 
+// The thrower heaves while the thrown fighter rises off its hands and slams as it comes down: the
+// hurl's two halves are the thrown fighter's flight up and down.
 constexpr Motion Throw(const char* name, int action, const Pose* start, const Pose* grab, const Pose* lift,
-                       const Pose* hurl) {
+                       const Pose* heave, const Pose* hurl) {
   return M(name, action, start,
            {Cue(P(grab, kGrabFrames, Ease::Out, Z(0.2f)), kCueShout), P(lift, kLiftFrames, Ease::InOut),
-            Cue(P(hurl, kHurlFrames, Ease::In), kCueHeavy), P(hurl, 6, Ease::Linear), P(start, 14, Ease::InOut, Z(-0.2f))});
+            P(heave, kHurlFrames / 2, Ease::Out), Cue(P(hurl, kHurlFrames - kHurlFrames / 2, Ease::In), kCueHeavy),
+            P(hurl, 6, Ease::Linear), P(start, 14, Ease::InOut, Z(-0.2f))});
 }
 
 // A thrown fighter: held, lifted, hurled up into `air` and down onto the floor as `toss` says. The
@@ -155,8 +165,8 @@ constexpr Motion ThrownRow(const char* name, int i) {
 }
 
 constexpr Motion kMotions[] = {
-    Throw("throw", 80, &kStance, &kGrab, &kLift, &kHurl),
-    Throw("hip_throw", 81, &kLow, &kGrabLow, &kHipTurn, &kHipHurl),
+    Throw("throw", 80, &kStance, &kGrab, &kLift, &kHeave, &kHurl),
+    Throw("hip_throw", 81, &kLow, &kGrabLow, &kHipTurn, &kHipHeave, &kHipHurl),
     ThrownRow("thrown_slam", 0),           // 82
     ThrownRow("thrown_hip", 1),            // 83
     ThrownRow("thrown_shoved", 2),         // 84

@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "figures/fig_figure.h"
+#include "motion/mot_shared.h"
 #include "moves/mv_arch.h"
 
 namespace mv {
@@ -31,9 +33,9 @@ TblFrame Frame_Of(int key, const mot::BakedFrame& f) {
 }
 
 // Appends one move's frames; returns its first frame.
-int Append(const Move& mv, const mot::Joints& joints, OwnFiles& out) {
+int Append(const Move& mv, const mot::Joints& joints, const mot::Floor* floor, OwnFiles& out) {
   std::vector<mot::BakedFrame> frames;
-  mot::Mot_Bake(mv.motion, joints, frames);
+  mot::Mot_Bake(mv.motion, joints, frames, floor);
   for (const Mark& m : mv.marks) {
     if (m.frame < 1 || m.frame > static_cast<int>(frames.size())) continue;
     mot::BakedFrame& f = frames[m.frame - 1];
@@ -50,11 +52,46 @@ int Append(const Move& mv, const mot::Joints& joints, OwnFiles& out) {
   return first;
 }
 
+// The body's points the floor can touch (props and the flexible piece left out), and its lowest
+// point in the fighting stance.
+std::vector<mot::MeshPoint> Mesh_Of(const fig::Model& model) {
+  std::vector<mot::MeshPoint> out;
+  for (int i = 1; i <= model.vertex_count; ++i) {
+    const fig::Vertex& v = model.vertices[i];
+    if (v.part >= 2 && v.part <= 18) out.push_back({v.part, {v.x, v.y, v.z}});
+  }
+  return out;
+}
+
+// The lowest point of the body standing in the shared idle's first frame, as the game shows it
+// on this skeleton: the floor every own frame keeps to.
+float Standing_Low(std::span<const mot::MeshPoint> mesh, const fig::Skeleton& skeleton) {
+  mot::Joints ref;
+  mot::Mot_JointsOf(fig::Fig_ReferenceSkeleton(), ref);
+  std::vector<mot::BakedFrame> idle;
+  mot::Mot_Bake(*mot::Mot_SharedByAction(0), ref, idle);
+  mot::KeyFrame key = idle.front().key;
+  mot::Mot_AsLoaded(key, true);
+  mot::Mot_Fit(key, skeleton);
+  mot::PartMatrix stand[22];
+  mot::Mot_Unpack(key, stand);
+  return mot::Mot_MeshLow(mesh, stand) + idle.front().offset.y;
+}
+
 }  // namespace
 
-bool Mv_Bake(const std::vector<Move>& moves, const fig::Skeleton& skeleton, OwnFiles& out, std::string* error) {
+bool Mv_Bake(const std::vector<Move>& moves, const fig::Skeleton& skeleton, const fig::Model* model, OwnFiles& out,
+             std::string* error) {
   mot::Joints joints;
   mot::Mot_JointsOf(skeleton, joints);
+  std::vector<mot::MeshPoint> mesh;
+  mot::Floor floor;
+  if (model) {
+    mesh = Mesh_Of(*model);
+    floor.mesh = mesh;
+    floor.rest = Standing_Low(mesh, skeleton);
+  }
+  const mot::Floor* on = model ? &floor : nullptr;
   out.keys.clear();
   out.table = TblFile{};
   // Frame 0: the fighting stance, which no action plays.
@@ -63,7 +100,7 @@ bool Mv_Bake(const std::vector<Move>& moves, const fig::Skeleton& skeleton, OwnF
   rest.motion.start = &Arch_Stance(false);
   rest.motion.phases[0].pose = rest.motion.start;
   rest.motion.phase_count = 1;
-  Append(rest, joints, out);
+  Append(rest, joints, on, out);
   std::vector<int> first_of(moves.size(), 0);
   for (std::size_t i = 0; i < moves.size(); ++i) {
     const Move& mv = moves[i];
@@ -72,7 +109,7 @@ bool Mv_Bake(const std::vector<Move>& moves, const fig::Skeleton& skeleton, OwnF
     if (mv.share >= 0 && mv.share < static_cast<int>(i)) {
       first = first_of[mv.share];
     } else {
-      first = Append(mv, joints, out);
+      first = Append(mv, joints, on, out);
     }
     first_of[i] = first;
     out.table.act[mv.action] = {static_cast<std::int16_t>(first), static_cast<std::int16_t>(first + length - 1)};

@@ -19,9 +19,11 @@ struct OwnFiles {
   TblFile table;  // frame 0 is a rest frame no action uses; ranges count from 1
 };
 
-// Bakes every move (a move that shares another's frames points its range at them). Repeated
-// key frames are stored once. False, with the reason, when the key frames overflow.
-bool Mv_Bake(const std::vector<Move>& moves, const fig::Skeleton& skeleton, OwnFiles& out, std::string* error);
+// Bakes every move (a move that shares another's frames points its range at them), with the
+// lowest point of the character's mesh (when given) on the floor it stands on. Repeated key
+// frames are stored once. False, with the reason, when the key frames overflow.
+bool Mv_Bake(const std::vector<Move>& moves, const fig::Skeleton& skeleton, const fig::Model* model, OwnFiles& out,
+             std::string* error);
 
 // The key frame record of a baked pose.
 FaKeyFrame Mv_KeyRecord(const mot::KeyFrame& key);

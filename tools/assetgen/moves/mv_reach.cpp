@@ -119,8 +119,9 @@ void Mv_FitReach(Move& mv, int character, float target) {
       mv.motion.phases[strike].travel.z += short_by;
     }
   }
-  // A long lunge leaves the floor in a low bound rather than gliding along it.
-  if (strike > 0 && added > 1.5f) mv.motion.phases[strike - 1].arc += std::min(1.0f, 0.12f * added);
+  // A long lunge skims the floor in a low skip rather than gliding along it (the stride itself is
+  // shaped by the move's builder).
+  if (strike > 0 && added > 1.5f) mv.motion.phases[strike - 1].arc += std::min(0.45f, 0.08f * added);
 }
 
 }  // namespace mv

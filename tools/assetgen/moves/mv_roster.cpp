@@ -327,9 +327,10 @@ void Add_Held(int character, const Style& st, std::vector<Move>& out) {
 constexpr int kFloorActions[] = {50,  51,  55,  56,  57,  143, 144, 147, 148, 157, 158, 161, 162, 163,
                                  164, 165, 166, 167, 171, 172, 173, 174, 175};
 
-// A thrown fighter is drawn without its standing offset; a character whose offset is large plays
-// the thrown reactions from its own frames, raised by it, so its feet stay on the floor.
-constexpr float kThrownOffsetLimit = 0.3f;
+// A thrown fighter is drawn without its standing offset; every character that has one plays the
+// thrown reactions from its own frames, raised by it, so it is held at the height it stood at and
+// lands on its own floor.
+constexpr float kThrownOffsetLimit = 0.05f;
 
 void Add_Floor(int character, std::vector<Move>& out) {
   auto own_copy = [&](int action, float lift) {
@@ -347,6 +348,22 @@ void Add_Floor(int character, std::vector<Move>& out) {
     for (int action = 82; action <= 101; ++action) own_copy(action, offset);
 }
 
+// A long lunge's wind-up is a skipping stride: the lead leg reaches for the floor ahead while the
+// rear one trails from the push, so the strike lands on a step instead of a two-footed hop.
+void Stride_Lunge(Move& mv, bool mirror) {
+  for (int i = 0; i + 1 < mv.motion.phase_count; ++i) {
+    mot::Phase& ph = mv.motion.phases[i];
+    if (ph.arc <= 0 || mv.motion.phases[i + 1].strike_part < 2) continue;
+    const int lead = mirror ? 8 : 14, rear = mirror ? 14 : 8;
+    mot::Pose p = *ph.pose;
+    p.ang[lead][0] -= 30;
+    p.ang[lead + 1][0] += 20;
+    p.ang[rear][0] += 25;
+    p.ang[rear + 1][0] += 45;
+    ph.pose = Keep(p);
+  }
+}
+
 }  // namespace
 
 void Mv_CharacterMoves(int character, std::vector<Move>& out) {
@@ -357,7 +374,10 @@ void Mv_CharacterMoves(int character, std::vector<Move>& out) {
   auto attack = [&](const Row& row) {
     Move mv = Build_Move(row.action, st, row);
     const int band = Mv_ReachBand(character, row.action);
-    Mv_FitReach(mv, character, band > 0 ? static_cast<float>(band) : kCloseReach);
+    const float target = band > 0 ? static_cast<float>(band) : kCloseReach;
+    Mv_FitReach(mv, character, target);
+    Stride_Lunge(mv, row.mirror);
+    Mv_FitReach(mv, character, target);  // the stride moves the striking limb a little
     out.push_back(std::move(mv));
   };
   for (const Row* row : Rows_Of(character)) attack(*row);
