@@ -1,23 +1,14 @@
 // Shared by the fuzz targets: run a reader on bytes written to a file, with the program's
 // exit paths turned into a return so that a refusal that ends the game is not a crash.
 #pragma once
-#include <csetjmp>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <unistd.h>
 
-#include "platform/headless/headless.h"
+#include "platform/headless/headless_catch.h"
 
 namespace fuzz {
-
-inline std::jmp_buf ExitJump;
-inline int ExitStatus = -1;
-
-[[noreturn]] inline void on_exit(int status) {
-  ExitStatus = status;
-  std::longjmp(ExitJump, 1);
-}
 
 // Runs in a private temporary directory, created on first use.
 inline void enter_work_dir() {
@@ -41,11 +32,7 @@ inline void write_file(const char* name, const std::uint8_t* data, std::size_t s
 template <typename F>
 int run_reader(F read) {
   enter_work_dir();
-  Headless_SetExitHook(on_exit);
-  ExitStatus = -1;
-  if (setjmp(ExitJump) == 0) read();
-  Headless_SetExitHook(nullptr);
-  return ExitStatus;
+  return Headless_CatchExit(read);
 }
 
 }  // namespace fuzz

@@ -4,22 +4,13 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <csetjmp>
 #include <string>
 
-#include "platform/headless/headless.h"
+#include "platform/headless/headless_catch.h"
 #include "platform/platform.h"
 #include "support/test_support.h"
 
 namespace harness {
-
-inline std::jmp_buf ExitJump;
-inline int ExitStatus = -1;
-
-[[noreturn]] inline void on_exit(int status) {
-  ExitStatus = status;
-  std::longjmp(ExitJump, 1);
-}
 
 // What a loader call did: the exit status it ended the program with (-1 when it returned),
 // and what it printed on standard output and standard error (the debugger codes).
@@ -33,12 +24,9 @@ template <typename F>
 Outcome run(F call) {
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
-  Headless_SetExitHook(on_exit);
-  ExitStatus = -1;
-  if (setjmp(ExitJump) == 0) call();
-  Headless_SetExitHook(nullptr);
+  const int status = Headless_CatchExit(call);
   std::fflush(stdout);
-  Outcome o{ExitStatus, "", ""};
+  Outcome o{status, "", ""};
   o.out = testing::internal::GetCapturedStdout();
   o.err = testing::internal::GetCapturedStderr();
   return o;

@@ -1,6 +1,6 @@
 // Content review: one fighter of the data set drawn by the game's own placement, shadow, chain
 // and mesh passes, seen from the side as the fight sees it, held in the middle of the picture.
-#include "platform/headless/headless_review.h"
+#include "review/review.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -18,7 +18,7 @@
 #include <cstring>
 
 #include "platform/headless/headless.h"
-#include "platform/headless/headless_review.h"
+#include "review/review.h"
 #include "shell/shell.h"
 #include "shell/shell_prepare.h"
 

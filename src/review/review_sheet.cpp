@@ -9,7 +9,7 @@
 #include "assets/asset_character.h"
 #include "fight/fight_state.h"
 #include "platform/headless/headless.h"
-#include "platform/headless/headless_review.h"
+#include "review/review.h"
 
 namespace {
 
