@@ -1,0 +1,59 @@
+// The fight core's operations: commands and links, the action machine, movement and spacing,
+// hits and damage, rounds and match rules, the knock-out replay.
+//
+// Every operation works on the two records of fight_state.h (fighters[], Match) and the
+// players' input records; none draws, allocates or touches a file, so the whole fight runs
+// without a window ("state in, input in, state out"). Functions that take `fighter` take the
+// index 0 (player-1 side) or 1.
+#pragma once
+#include <cstdint>
+
+// ---- commands and move links (fight_command.cpp) ---------------------------------------
+// Once a frame for each player-driven fighter, after its input is read: the direction code
+// history and the command it completes.
+void update_commands(int fighter);
+void clear_commands(int fighter);  // history to -2, position 0
+void clear_input(int fighter);     // every direction, tap and button of the fighter's input
+// The action the command `slot` links to from the running action; 0 for none.
+int find_link(int fighter, int slot);
+void queue_link(int fighter, int next_action);
+// Starts a waiting link when the running action reaches its link window; 1 when it did.
+int take_queued(int fighter);
+// Starts the character's special move of `slot` (as a link when one is running); 1 when an
+// action was started.
+int try_special(int fighter, int slot);
+
+// ---- the action machine (fight_action.cpp) ---------------------------------------------
+// The only way the fight changes a fighter's action, apart from the direct set-ups.
+void start_action(int fighter, int action, int from_start);
+int is_neutral(int fighter);         // may start a normal action from standing
+int is_crouch_neutral(int fighter);  // the same from crouching
+void fighter_input(int fighter);
+void fighter_animate(int fighter);
+
+// ---- movement, facing and spacing (fight_move.cpp) -------------------------------------
+void move_step();        // once a fight frame
+void update_distance();  // the separation of the two fighters
+void root_track_begin(int fighter);
+void root_track_end(int fighter);
+void root_sync(int fighter);
+
+// ---- hits, guard and damage (fight_hit.cpp) --------------------------------------------
+void fighter_strike(int attacker);
+void apply_blow(int attacker, int defender, int guard_class, int damage, int by_projectile);
+void projectile_clash();
+
+// ---- rounds and match rules (fight_round.cpp) ------------------------------------------
+void Fight_Update();       // once a fight frame
+void update_clock();       // from the fight's drawing pass, then
+void resolve_time_over();  // the time-over step
+void end_round();          // when the round's closing shot is over (the camera calls it)
+void Enter_StreakRanking(int fighter);
+int Enter_TimeRanking(int fighter);  // place 1..5, or 0
+
+// ---- the knock-out replay (fight_replay.cpp) -------------------------------------------
+void record_frame();
+void show_frame();
+void start_ko_replay();
+void ko_replay_step();
+void closing_step();
