@@ -66,6 +66,12 @@ class Determinism : public ::testing::Test {
   static std::vector<std::uint64_t> play(int frames) {
     std::vector<std::uint64_t> hashes;
     frame_count = 0;
+    const MatchState fresh;
+    const std::int32_t c0 = Match.character[0], c1 = Match.character[1];
+    Match = fresh;
+    Match.character[0] = c0, Match.character[1] = c1;
+    Match.human[0] = Match.human[1] = 1;
+    Replay.fresh = 0;
     fighters[0].wins = fighters[1].wins = 0;
     Cpu = CpuState{};
     Effects = EffectState{};
