@@ -32,6 +32,15 @@ void fighter_input(int fighter);
 void fighter_animate(int fighter);
 
 // ---- movement, facing and spacing (fight_move.cpp) -------------------------------------
+// The fighters' separation and the arena. Written only by the movement step (update_distance
+// and the arena edge); the camera, the computer opponent and the hit code read it.
+struct SpacingState {
+  float distance = 0;    // |x0 - x1| of the two tracking points
+  float height_gap = 0;  // difference of the two body heights, each at least 0
+  float track_x[2] = {}, track_z[2] = {};  // the points the separation is taken between
+  float centre_x = 0, centre_z = 0;        // the arena's centre; its radius is 25.0
+};
+extern SpacingState Spacing;
 void move_step();        // once a fight frame
 void update_distance();  // the separation of the two fighters
 void root_track_begin(int fighter);

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "camera/camera_fight.h"
+#include "fight/fight.h"
 #include "fight/fight_state.h"
 #include "input/input.h"
 #include "render/render_fighter.h"
@@ -18,6 +19,7 @@ class FightCameraTest : public ::testing::Test {
     Build_SinCosTables();
     Build_AngleTables();
     Match = MatchState{};
+    Spacing = SpacingState{};
     for (int i = 0; i < 2; ++i) {
       fighters[i].wins = 0;
       fighters[i].life = 85;
@@ -37,16 +39,16 @@ class FightCameraTest : public ::testing::Test {
   static void place(float x0, float x1, float h0 = 0.0f, float h1 = 0.0f) {
     const float xs[2] = {x0, x1}, hs[2] = {h0, h1};
     for (int i = 0; i < 2; ++i) {
-      fighters[i].track_x = fighters[i].pos_x = xs[i];
-      fighters[i].track_z = fighters[i].pos_z = 0.0f;
+      Spacing.track_x[i] = fighters[i].pos_x = xs[i];
+      Spacing.track_z[i] = fighters[i].pos_z = 0.0f;
+      fighters[i].height = hs[i];
       Draw.Body_Centre[i][0] = xs[i];
-      Draw.Body_Centre[i][1] = hs[i];
       Draw.Body_Centre[i][2] = 0.0f;
     }
     fighters[0].yaw = 90;
     fighters[1].yaw = 270;
-    Match.distance = std::fabs(x1 - x0);
-    Match.height_gap = std::fabs(std::max(h0, 0.0f) - std::max(h1, 0.0f));
+    Spacing.distance = std::fabs(x1 - x0);
+    Spacing.height_gap = std::fabs(std::max(h0, 0.0f) - std::max(h1, 0.0f));
   }
 
   static void run(int frames) {
@@ -151,8 +153,8 @@ TEST_F(FightCameraTest, FollowDistanceGrowsWithTheSeparationAndLiftsTheView) {
 
 TEST_F(FightCameraTest, FollowLooksFromTheSideAtTheMidpointAndStaysInsideTheStage) {
   place(2.0f, 8.0f);
-  fighters[0].track_z = -1.0f;
-  fighters[1].track_z = 3.0f;
+  Spacing.track_z[0] = -1.0f;
+  Spacing.track_z[1] = 3.0f;
   FightCamera.heading = 200;
   run(200);
   EXPECT_FLOAT_EQ(FightCamera.look_x, 5.0f);
@@ -166,15 +168,20 @@ TEST_F(FightCameraTest, FollowLooksFromTheSideAtTheMidpointAndStaysInsideTheStag
   run(200);
   EXPECT_FLOAT_EQ(FightCamera.look_x, 17.0f);
   EXPECT_FLOAT_EQ(FightCamera.look_z, -17.0f);
-  Match.arena_x = 10.0f;  // the circle has followed a fighter out
+  Spacing.centre_x = 10.0f;  // the circle has followed a fighter out
   run(200);
   EXPECT_FLOAT_EQ(FightCamera.look_x, 27.0f);
 
   // A throw shot is not held in by the stage.
-  Match.throw_camera = 1;
+  FightCamera.throw_mode = 1;
+  fighters[0].special_cam = 1;
   fighters[0].special_shot = 1;
   run(200);
   EXPECT_FLOAT_EQ(FightCamera.look_x, 30.0f);
+  fighters[0].special_cam = 0;  // the throw is over: back inside the stage
+  UpdateFightCamera();
+  EXPECT_EQ(FightCamera.throw_mode, 0);
+  EXPECT_FLOAT_EQ(FightCamera.look_x, 27.0f);
 }
 
 TEST_F(FightCameraTest, KnockOutCloseUpsFrameTheWinnerOrTheBeatenFighter) {
@@ -204,18 +211,23 @@ TEST_F(FightCameraTest, KnockOutCloseUpsFrameTheWinnerOrTheBeatenFighter) {
 
 TEST_F(FightCameraTest, ThrowShotsSetTheirAnglesAndFallBackToTheSideView) {
   place(-2.0f, 2.0f, 1.0f, 1.0f);
-  Match.throw_camera = 2;
+  frame_count = 1001;  // a throw starting on this frame takes angle 2
+  fighters[1].special_cam = 1;
   fighters[1].special_shot = 2;  // shots 2 and 3 tilt down on the higher body
   UpdateFightCamera();
   EXPECT_EQ(FightCamera.target_y, 1.0f);
   EXPECT_FLOAT_EQ(FightCamera.desired_distance, 4.0f + 8.0f + 5.0f);  // 100 frames to settle
   EXPECT_EQ(FightCamera.heading_target, 44);
   EXPECT_EQ(FightCamera.shot_frame, 1);
+  EXPECT_EQ(FightCamera.throw_mode, 2);
+  frame_count = 1002;
+  UpdateFightCamera();
+  EXPECT_EQ(FightCamera.throw_mode, 2) << "the angle holds for the whole throw";
 
   // Mode 3 from above with a body lifted 20 units tilts past 80 degrees: back to shot 1.
   FightCamera = FightCameraState{};
   place(-2.0f, 2.0f, 20.0f, 0.0f);
-  Match.throw_camera = 3;
+  FightCamera.throw_mode = 3;
   UpdateFightCamera();
   EXPECT_EQ(fighters[0].special_shot, 0);
   EXPECT_EQ(fighters[1].special_shot, 1);
@@ -228,7 +240,7 @@ TEST_F(FightCameraTest, ThrowShotsSetTheirAnglesAndFallBackToTheSideView) {
   fighters[0].action = 340;
   fighters[0].act_last[340] = 500;
   fighters[0].frame = 470;
-  Match.throw_camera = 4;
+  FightCamera.throw_mode = 4;
   UpdateFightCamera();
   EXPECT_EQ(FightCamera.heading_base, 330);
   EXPECT_EQ(FightCamera.pitch, -4) << "-5, then one easing step toward level";
@@ -243,8 +255,8 @@ TEST_F(FightCameraTest, OrbitDistanceStretchesWithTheSeparationUpTo45) {
       {8.0f, 0.0f, 11.0f},  {8.0f, 3.0f, 13.0f},  {5.0f, 40.0f, 50.0f},  // close: no cap
   };
   for (const Case& c : cases) {
-    Match.distance = c.separation;
-    Match.height_gap = c.gap;
+    Spacing.distance = c.separation;
+    Spacing.height_gap = c.gap;
     EXPECT_NEAR(OrbitDistance(), c.want, 1e-4f) << c.separation << " / " << c.gap;
   }
 }
