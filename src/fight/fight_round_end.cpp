@@ -180,6 +180,7 @@ void Recentre_Camera() {
   const float mz = (fighters[0].pos_z + fighters[1].pos_z) * 0.5f;
   FightCamera.target_x = FightCamera.look_x = mx;
   FightCamera.target_z = FightCamera.look_z = mz;
+  FightCamera.distance = FightCamera.distance_target = OrbitDistance();
 }
 
 void end_round() {
