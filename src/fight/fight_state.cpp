@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstring>
 
+#include "cpu/cpu.h"
 #include "render/render_effect.h"
 #include "shell/shell.h"
 
@@ -120,6 +121,7 @@ void reset_round() {
   Match.side_b = 1;
   Match.time_rank = 0;
   Match.reverse[0] = Match.reverse[1] = 0;
+  CpuRoundStart();
   Clear_Projectiles();  // body-part effects went with each fighter's reset
   Shell.SkipPresent = 1;  // the round's first picture is drawn but not shown
 }
