@@ -3,8 +3,12 @@
 #include <cstddef>
 #include <cstring>
 
+<<<<<<< HEAD
 #include "camera/camera_fight.h"
 #include "cpu/cpu.h"
+=======
+#include "fight/fight.h"
+>>>>>>> fight1
 #include "render/render_effect.h"
 #include "shell/shell.h"
 
@@ -125,6 +129,7 @@ void reset_round() {
   Match.reverse[0] = Match.reverse[1] = 0;
   CpuRoundStart();
   Clear_Projectiles();  // body-part effects went with each fighter's reset
+  reset_spacing();
   Shell.SkipPresent = 1;  // the round's first picture is drawn but not shown
 }
 
