@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "camera/camera_fight.h"
+#include "cpu/cpu.h"
 #include "fight/fight.h"
 #include "render/render_effect.h"
 #include "shell/shell.h"
@@ -123,6 +124,7 @@ void reset_round() {
   Match.side_b = 1;
   Match.time_rank = 0;
   Match.reverse[0] = Match.reverse[1] = 0;
+  CpuRoundStart();
   Clear_Projectiles();  // body-part effects went with each fighter's reset
   reset_spacing();
   Shell.SkipPresent = 1;  // the round's first picture is drawn but not shown
