@@ -2,6 +2,7 @@
 #include "assets/asset_anim.h"
 #include "audio/audio.h"
 #include "fight/fight_state.h"
+#include "hud/hud.h"
 #include "input/input.h"
 #include "platform/platform.h"
 #include "render/render_fighter.h"
@@ -89,6 +90,19 @@ void Run_Frame() {
   }
 }
 
+// The end of a challenger interruption: the side that joined is played by its player, its
+// stage is the next match's, and both players choose again.
+void Challenger_Step() {
+  if (Match.challenger == 1 || Match.challenger == 2) {
+    const int side = Match.challenger - 1;
+    Match.human[side] = 1;
+    Prepare.stage_side = side;
+  }
+  Shell.GameMode = MODE_SELECT;
+  Shell.SelectEnter = 1;
+  Match.challenger = 0;
+}
+
 void Fight_Frame() {
   Fight_Draw();
 }
@@ -113,8 +127,14 @@ void Fight_Draw() {
   Clear_Depth();
   Draw_Stage();
   DrainGauges();
+  const bool closing = Match.after_ko != 0 && Match.after_ko_frames >= 50;
+  if (!closing && Match.win_pose_count == 0 && Match.demo != 1) {
+    Set_DrawMode(40);
+    DrawHudBase();
+  }
   Draw_Fighters();  // with the effect pass
   Set_DrawMode(40);
+  DrawHudMessages();  // also runs out a challenger's notice
   if (Shell.SkipPresent == 1)
     Shell.SkipPresent = 0;
   else
