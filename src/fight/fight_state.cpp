@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstring>
 
+#include "fight/fight.h"
 #include "render/render_effect.h"
 #include "shell/shell.h"
 
@@ -103,5 +104,6 @@ void reset_round() {
   Match.first_strike = Match.first_strike_frame = 0;
   Match.reversal = Match.reversal_frame = 0;
   Clear_Projectiles();  // body-part effects went with each fighter's reset
+  reset_spacing();
   Shell.SkipPresent = 1;  // the round's first picture is drawn but not shown
 }
