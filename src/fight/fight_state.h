@@ -71,6 +71,9 @@ struct MatchState {
   std::int32_t first_strike_frame = 0;
   std::int32_t reversal = 0;
   std::int32_t reversal_frame = 0;
+
+  // Set by the hit code at a deciding special-move blow; the camera reads it.
+  std::int32_t ko_closeup = 0;    // knock-out close-up 0 none, 1 on the winner, 2 on the loser
 };
 extern MatchState Match;
 
