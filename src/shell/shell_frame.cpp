@@ -4,6 +4,7 @@
 #include "camera/camera_fight.h"
 #include "fight/fight.h"
 #include "fight/fight_state.h"
+#include "hud/hud.h"
 #include "input/input.h"
 #include "platform/platform.h"
 #include "render/render_fighter.h"
@@ -133,9 +134,11 @@ void draw_fight_picture() {
   if (hud_base_shown()) {
     resolve_time_over();
     Set_DrawMode(40);
+    DrawHudBase();
   }
   Draw_Fighters();  // with the effect pass
   Set_DrawMode(40);
+  DrawHudMessages();  // also runs out a challenger's notice
   if (Shell.SkipPresent == 1)
     Shell.SkipPresent = 0;
   else
