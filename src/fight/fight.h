@@ -22,9 +22,13 @@ int take_queued(int fighter);
 // Starts the character's special move of `slot` (as a link when one is running); 1 when an
 // action was started.
 int try_special(int fighter, int slot);
+// The command slot of a command (0..7) with an attack button (1..4).
+int command_slot(int command, int button);
 
 // ---- the action machine (fight_action.cpp) ---------------------------------------------
 // The only way the fight changes a fighter's action, apart from the direct set-ups.
+// from_start 1 starts at the action's first frame, 0 at its link entry. Clears reel_frames
+// for most actions: a reaction's knock-back is set after the reaction has started.
 void start_action(int fighter, int action, int from_start);
 int is_neutral(int fighter);         // may start a normal action from standing
 int is_crouch_neutral(int fighter);  // the same from crouching
@@ -32,11 +36,26 @@ void fighter_input(int fighter);
 void fighter_animate(int fighter);
 
 // ---- movement, facing and spacing (fight_move.cpp) -------------------------------------
+// The fighters' separation and the arena. Written only by the movement step (update_distance
+// and the arena edge); the camera, the computer opponent and the hit code read it.
+struct SpacingState {
+  float distance = 0;    // |x0 - x1| of the two tracking points
+  float height_gap = 0;  // difference of the two body heights, each at least 0
+  float track_x[2] = {}, track_z[2] = {};  // the points the separation is taken between
+  float centre_x = 0, centre_z = 0;        // the arena's centre; its radius is 25.0
+};
+extern SpacingState Spacing;
 void move_step();        // once a fight frame
 void update_distance();  // the separation of the two fighters
+void reset_spacing();    // round start: arena centred, no launch in flight
+// The height of the fighter's body above its standing height (what "passing over" compares).
+float body_height(int fighter);
 void root_track_begin(int fighter);
 void root_track_end(int fighter);
-void root_sync(int fighter);
+void root_sync(int fighter);  // once a frame after the model update: pos_z back to 0
+// A blow that lifts the defender: it flies along the launch arc until it lands.
+void start_launch(int defender, int damage, float launch_speed);
+void stop_launch(int fighter);
 
 // ---- hits, guard and damage (fight_hit.cpp) --------------------------------------------
 void fighter_strike(int attacker);

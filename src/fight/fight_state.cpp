@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstring>
 
+#include "fight/fight.h"
 #include "render/render_effect.h"
 #include "shell/shell.h"
 
@@ -121,6 +122,7 @@ void reset_round() {
   Match.time_rank = 0;
   Match.reverse[0] = Match.reverse[1] = 0;
   Clear_Projectiles();  // body-part effects went with each fighter's reset
+  reset_spacing();
   Shell.SkipPresent = 1;  // the round's first picture is drawn but not shown
 }
 

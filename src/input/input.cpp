@@ -1,6 +1,8 @@
 #include "input/input.h"
 
+#include "fight/fight.h"
 #include "platform/platform.h"
+#include "shell/shell.h"
 
 PlayerInput Players[2];
 JoyState Joy[2];
@@ -135,4 +137,7 @@ void Input_Read(int player) {
   read_direction(key_down(in.key_down) || pad.y > kAxisHigh, joy.down, in.down, in.down_tap,
                  nullptr);
   if (in.down && !down_was_latched) in.left_window = in.right_window = 0;
+  // The fight's command step: the direction history and the command it completes (and the
+  // mirrored keys of reversed controls).
+  if (Shell.GameMode != MODE_SELECT) update_commands(player);
 }

@@ -19,6 +19,7 @@
 
 #include "platform/headless/headless.h"
 #include "review/review.h"
+#include "review/review_trace.h"
 #include "shell/shell.h"
 #include "shell/shell_prepare.h"
 
@@ -69,6 +70,7 @@ int main(int argc, char** argv) {
     else if (!std::strcmp(argv[i], "--pose") && has_value) pose = argv[++i];
     else if (!std::strcmp(argv[i], "--out") && has_value) out = argv[++i];
     else if (!std::strcmp(argv[i], "--sheet") && has_value) sheet = argv[++i];
+    else if (!std::strcmp(argv[i], "--trace") && has_value && Review_TraceOpen(argv[i + 1])) ++i;
     else return usage();
   }
   if (data == nullptr || frames < 0 || (shots != nullptr) != (every > 0)) return usage();

@@ -33,6 +33,9 @@ void Headless_SetFrameLimit(long frames);
 void Headless_SetShots(const char* dir, int every);
 // Reports the game's current mode for the summary line.
 void Headless_SetModeProbe(int (*probe)());
+// Called after every frame of the main loop with that frame's number (from 0); nullptr for
+// none.
+void Headless_SetFrameHook(void (*hook)(long frame));
 
 long Headless_Frames();     // frames run (per-frame callback calls)
 long Headless_Presented();  // buffer swaps

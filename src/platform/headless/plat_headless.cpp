@@ -27,6 +27,7 @@ struct HeadlessState {
   char shot_dir[512] = "";
   int shot_every = 0;
   int (*mode_probe)() = nullptr;
+  void (*frame_hook)(long frame) = nullptr;
   bool summary_printed = false;
   Headless_ExitHook exit_hook = nullptr;
 };
@@ -76,6 +77,7 @@ void Plat_RunMainLoop(Plat_Callback idle, Plat_ReshapeCallback reshape, Plat_Cal
   while (H.frame_limit == 0 || H.frames < H.frame_limit) {
     Headless_ApplyScript(H.frames);
     idle();
+    if (H.frame_hook) H.frame_hook(H.frames);
     ++H.frames;
   }
   Headless_PrintSummary(0);
@@ -161,6 +163,7 @@ void Headless_SetShots(const char* dir, int every) {
 
 void Headless_SetExitHook(Headless_ExitHook hook) { H.exit_hook = hook; }
 void Headless_SetModeProbe(int (*probe)()) { H.mode_probe = probe; }
+void Headless_SetFrameHook(void (*hook)(long frame)) { H.frame_hook = hook; }
 long Headless_Frames() { return H.frames; }
 long Headless_Presented() { return H.presented; }
 std::uint32_t Headless_Clock() { return H.clock; }
