@@ -67,6 +67,11 @@ void Fight_Update();       // once a fight frame
 void update_clock();       // from the fight's drawing pass, then
 void resolve_time_over();  // the time-over step
 void end_round();          // when the round's closing shot is over (the camera calls it)
+// The ending wait is over (its frames ran out, or the beaten fighter would get up): the
+// closing replay starts, or the demonstration ends.
+void end_ko_wait();
+// Super move, its flash and its freeze end for both fighters.
+void Clear_SuperFlags();
 void Enter_StreakRanking(int fighter);
 int Enter_TimeRanking(int fighter);  // place 1..5, or 0
 

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <cstring>
 
+#include "camera/camera_fight.h"
+#include "cpu/cpu.h"
 #include "fight/fight.h"
 #include "render/render_effect.h"
 #include "shell/shell.h"
@@ -108,6 +110,7 @@ void reset_round() {
   reset_fighter(1);
   const bool later_round = fighters[0].wins > 0 || fighters[1].wins > 0 || Match.demo == 1;
   Match.intro = later_round ? frame_count % 2 : 2;
+  Reset_FightCamera();  // and the sweep that opens the round
   Match.ko_state = 0;
   Match.after_ko = 0;
   Match.after_ko_frames = 0;
@@ -121,6 +124,7 @@ void reset_round() {
   Match.side_b = 1;
   Match.time_rank = 0;
   Match.reverse[0] = Match.reverse[1] = 0;
+  CpuRoundStart();
   Clear_Projectiles();  // body-part effects went with each fighter's reset
   reset_spacing();
   Shell.SkipPresent = 1;  // the round's first picture is drawn but not shown
