@@ -3,6 +3,7 @@
 #include "audio/audio.h"
 #include "fight/fight.h"
 #include "fight/fight_state.h"
+#include "hud/hud.h"
 #include "input/input.h"
 #include "platform/platform.h"
 #include "render/render_fighter.h"
@@ -117,6 +118,7 @@ void Challenger_Step() {
     Prepare.stage_side = 1;
   }
   // Both players choose again in the select screen; the side that played starts from its slot.
+  select_done[0] = select_done[1] = 0;
   Shell.GameMode = MODE_SELECT;
   Shell.SelectEnter = 1;
   Match.challenger = 0;
@@ -143,9 +145,11 @@ void draw_fight_picture() {
   if (hud_base_shown()) {
     resolve_time_over();
     Set_DrawMode(40);
+    DrawHudBase();
   }
   Draw_Fighters();  // with the effect pass
   Set_DrawMode(40);
+  DrawHudMessages();  // also runs out a challenger's notice
   if (Shell.SkipPresent == 1)
     Shell.SkipPresent = 0;
   else
