@@ -4,6 +4,7 @@
 
 #include "audio/audio.h"
 #include "audio/audio_wave.h"
+#include "fight/fight_replay.h"
 #include "fight/fight_state.h"
 #include "platform/platform_audio.h"
 #include "settings/settings.h"
@@ -88,6 +89,8 @@ void Queue_Sound(int channel, int sound) {
 void Flush_Sounds() {
   if (!sound_on()) return;  // the queue keeps its entries
   for (int i = 0; i < SoundQueue.count; ++i) Play_Effect(SoundQueue.sound[i]);
+  // The replay ring keeps what this frame said, so that a replay says it again.
+  Replay_StoreVoices(SoundQueue.channel, SoundQueue.sound, SoundQueue.count);
   SoundQueue.count = 0;
 }
 

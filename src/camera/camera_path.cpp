@@ -4,7 +4,11 @@
 #include <bit>
 #include <cstdio>
 
+#include "camera/camera_fight.h"
+#include "fight/fight_state.h"
 #include "platform/platform.h"
+#include "render/render_math.h"
+#include "render/render_view.h"
 
 CameraPathRecord CameraPath[CAMERA_PATHS];
 
@@ -66,4 +70,42 @@ int LoadCameraPath(const char* file, int path, int slot) {
   }
   P.frame_count = frames;
   return 1;
+}
+
+namespace {
+
+// A path point turned to the anchor's facing and moved to its position.
+void anchored(const Mat43& turn, const Fighter& f, const CameraPathRecord& p, int k, int slot,
+              float* x, float* y, float* z) {
+  Mat_Apply(&turn, p.x[k][slot], p.height[k][slot], p.z[k][slot], x, y, z);
+  *x += f.pos_x;
+  *y += f.pos_y;
+  *z += f.pos_z;
+}
+
+}  // namespace
+
+int PlayCameraPath(int path, int fighter, int end_action) {
+  (void)end_action;  // the only path the game plays asks for nothing at its end
+  const int k = (path >= 0 && path < CAMERA_PATHS) ? CameraPath[path].current_frame : -1;
+  if (k < 0 || k >= CAMERA_PATH_FRAMES || fighter < 0 || fighter > 1) {
+    std::printf("\r\r\rCamera ERROR!!!\r\r\r");
+    return 1;
+  }
+  CameraPathRecord& p = CameraPath[path];
+  const Fighter& f = fighters[fighter];
+  Mat43 turn;
+  Mat_RotY(&turn, Wrap_Angle(f.yaw + 270));
+  FightCameraState& c = FightCamera;
+  anchored(turn, f, p, k, CAMERA_PATH_LOOK_AT, &c.target_x, &c.target_y, &c.target_z);
+  anchored(turn, f, p, k, CAMERA_PATH_EYE, &c.eye_x, &c.eye_y, &c.eye_z);
+  c.look_x = c.target_x;
+  c.look_y = c.target_y;
+  c.look_z = c.target_z;
+  c.distance = AnglesFromEye();
+  c.pitch_target = c.pitch;
+  c.heading_target = c.heading;
+  c.roll_target = c.roll;
+  ++p.current_frame;
+  return p.frame_count > p.current_frame ? 0 : 1;
 }

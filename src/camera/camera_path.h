@@ -27,3 +27,11 @@ extern CameraPathRecord CameraPath[CAMERA_PATHS];
 // the file when it holds more than 1350 frames, a negative count, or fewer records than it
 // says.
 int LoadCameraPath(const char* file, int path, int slot);
+
+// Plays the current frame of a path anchored on a fighter: both points turned by the
+// fighter's yaw + 270 and moved to its position become the camera's look-at target and eye,
+// and the camera looks from that eye at once. Returns 0 while frames remain, 1 when the frame
+// just played was the last. `end_action` says what follows the last frame; the opening passes
+// 3, nothing further. A path, fighter or frame out of range prints a message, plays nothing
+// and reports the end.
+int PlayCameraPath(int path, int fighter, int end_action);

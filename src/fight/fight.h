@@ -47,15 +47,12 @@ struct SpacingState {
 extern SpacingState Spacing;
 void move_step();        // once a fight frame
 void update_distance();  // the separation of the two fighters
-void reset_spacing();    // round start: arena centred, no launch in flight
+void reset_spacing();    // round start: the arena centred on the middle
 // The height of the fighter's body above its standing height (what "passing over" compares).
 float body_height(int fighter);
 void root_track_begin(int fighter);
 void root_track_end(int fighter);
 void root_sync(int fighter);  // once a frame after the model update: pos_z back to 0
-// A blow that lifts the defender: it flies along the launch arc until it lands.
-void start_launch(int defender, int damage, float launch_speed);
-void stop_launch(int fighter);
 
 // ---- hits, guard and damage (fight_hit.cpp) --------------------------------------------
 void fighter_strike(int attacker);
@@ -67,6 +64,11 @@ void Fight_Update();       // once a fight frame
 void update_clock();       // from the fight's drawing pass, then
 void resolve_time_over();  // the time-over step
 void end_round();          // when the round's closing shot is over (the camera calls it)
+// The ending wait is over (its frames ran out, or the beaten fighter would get up): the
+// closing replay starts, or the demonstration ends.
+void end_ko_wait();
+// Super move, its flash and its freeze end for both fighters.
+void Clear_SuperFlags();
 void Enter_StreakRanking(int fighter);
 int Enter_TimeRanking(int fighter);  // place 1..5, or 0
 

@@ -292,7 +292,7 @@ void get_up(int fighter, bool second_way) {
   Fighter& f = fighters[fighter];
   const int lying = second_way ? ACT_LYING_B : ACT_LYING;
   if (Match.ko_state != 0 || Match.frozen) {  // the round is over: stay down
-    if (Match.ko_state == 1 && fighter != Match.winner) Match.ko_wait = 1;  // the wait is over
+    if (Match.ko_state == 1 && fighter != Match.winner) end_ko_wait();  // no need to wait
     if (f.action != lying) {
       f.action = lying;
       f.frame = f.act_first[lying];

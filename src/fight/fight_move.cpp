@@ -17,7 +17,6 @@ constexpr float kStep = 0.2f;          // one step, in units
 constexpr float kArenaRadius = 25.0f;
 constexpr float kKeepApart = 4.0f;     // roots closer than this are pushed apart
 constexpr float kPassingOver = 2.0f;   // a jumper this much higher passes over
-constexpr float kRootBehind = 0.25f;   // the body point sits this far behind the position
 constexpr int kTurnDelay = 4;          // frames facing the wrong way before turning
 constexpr int kLookEntries = 25;
 constexpr int kLookEntriesCrouching = 15;
@@ -183,33 +182,6 @@ void update_facing() {
 // Along the fighter's facing: +1 when it faces +x.
 float facing_sign(int yaw) { return StepSinTable[wrap_deg(yaw)] > 0.0f ? 1.0f : -1.0f; }
 
-// ---- launches ------------------------------------------------------------------------------
-struct Launch {
-  std::int32_t active;
-  float t, h0, vx, vz, lift;
-};
-Launch Launches[2];
-
-bool launched_reaction(int action) { return action == 157 || action == 158 || action == 167; }
-
-void launch_flight(int fighter) {
-  Fighter& f = fighters[fighter];
-  Launch& l = Launches[fighter];
-  if (!l.active) return;
-  f.pos_x += l.vx;
-  f.pos_z += l.vz;
-  f.height = l.lift * l.t + l.h0 - 4.9f * l.t * l.t;
-  l.t += 0.07f;
-  if (f.height < 0.0f) {
-    f.height = 0.0f;
-    l.active = 0;
-    return;
-  }
-  const int hold_at = launched_reaction(f.action) ? f.act_first[f.action] + 18
-                                                  : f.act_last[f.action] - 2;
-  if (f.frame >= hold_at) f.frame = hold_at - 1;
-}
-
 void floor_strike(int fighter) {
   Fighter& f = fighters[fighter];
   if (f.frame_hit[f.frame] != 5 || f.frame_part[f.frame] != 2) return;
@@ -314,32 +286,9 @@ void jump_arc_step(int fighter) {
 }
 
 void fall_step(int fighter) {
-  launch_flight(fighter);
   floor_strike(fighter);
   air_hold(fighter);
 }
-
-void start_launch(int defender, int damage, float launch_speed) {
-  Fighter& f = fighters[defender];
-  Launch& l = Launches[defender];
-  const float d = static_cast<float>(damage < 3 ? damage : 3);
-  float speed = d * kStep / 10.0f;
-  if (launch_speed >= 2.0f) {
-    l.lift = launch_speed * d / 10.0f;
-    if (faces_away(f) || f.turning) speed *= 1.5f;
-  } else {
-    l.lift = launch_speed * d / 2.0f;
-    speed /= 4.0f;
-  }
-  const int a = wrap_deg(f.face_yaw + 180);  // away from the attacker
-  l.vx = speed * StepSinTable[a] / kStep;
-  l.vz = speed * StepCosTable[a] / kStep;
-  l.t = 0.0f;
-  l.h0 = f.height;
-  l.active = 1;
-}
-
-void stop_launch(int fighter) { Launches[fighter].active = 0; }
 
 // ---- public --------------------------------------------------------------------------------
 void update_distance() {
@@ -374,7 +323,6 @@ void move_step() {
 void reset_spacing() {
   Spacing = SpacingState{};
   Move = MoveState{};
-  Launches[0] = Launches[1] = Launch{};
   update_distance();
 }
 
@@ -387,12 +335,12 @@ void root_track_begin(int fighter) {
   f.root_track = 1;
 }
 
+// The position follows the body point's own travel since the tracking began: wherever the
+// hips sit on a character's model, a motion that carries nothing leaves the position alone.
 void root_track_end(int fighter) {
   Fighter& f = fighters[fighter];
-  const bool side_b = fighter == Match.side_b;
-  const bool facing = !faces_away(f);
-  const bool behind_is_minus = (side_b && facing) || (!side_b && !facing);
-  f.pos_x = body_x(fighter) + (behind_is_minus ? -kRootBehind : kRootBehind);
+  if (!f.root_track) return;
+  f.pos_x = body_x(fighter) - (f.track_root0 - f.track_x0);
   f.root_track = 0;
   f.root_sync = 1;
   Move.ended_at[fighter] = frame_count;

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstring>
 
+#include "camera/camera_fight.h"
 #include "fight/fight.h"
 #include "render/render_effect.h"
 #include "shell/shell.h"
@@ -108,6 +109,7 @@ void reset_round() {
   reset_fighter(1);
   const bool later_round = fighters[0].wins > 0 || fighters[1].wins > 0 || Match.demo == 1;
   Match.intro = later_round ? frame_count % 2 : 2;
+  Reset_FightCamera();  // and the sweep that opens the round
   Match.ko_state = 0;
   Match.after_ko = 0;
   Match.after_ko_frames = 0;

@@ -63,6 +63,9 @@ struct MatchState {
   std::int32_t win_pose_count = 0;   // 0 none, else frames of the win pose plus one
   std::int32_t impact_strength = 0;  // the impact shake the hit code starts
   std::int32_t impact_frames = 0;    // run down by every placement and mesh pass
+
+  // Set by the hit code at a deciding special-move blow; the camera reads it.
+  std::int32_t ko_closeup = 0;    // knock-out close-up 0 none, 1 on the winner, 2 on the loser
 };
 extern MatchState Match;
 

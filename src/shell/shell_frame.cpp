@@ -1,6 +1,8 @@
 // The per-frame callback and the game-mode machine.
 #include "assets/asset_anim.h"
 #include "audio/audio.h"
+#include "camera/camera_fight.h"
+#include "fight/fight.h"
 #include "fight/fight_state.h"
 #include "input/input.h"
 #include "platform/platform.h"
@@ -91,7 +93,56 @@ void Run_Frame() {
 
 void Fight_Frame() {
   Fight_Draw();
+  if (Match.challenger != 0) return;  // a challenger's banner runs: drawn but frozen
+  Fight_Update();
+  UpdateFightCamera();
 }
+
+void Challenger_Step() {
+  if (Match.challenger == 1) {
+    Match.human[0] = 1;
+    Prepare.stage_side = 0;
+  } else if (Match.challenger == 2) {
+    Match.human[1] = 1;
+    Prepare.stage_side = 1;
+  }
+  // Both players choose again in the select screen; the side that played starts from its slot.
+  Shell.GameMode = MODE_SELECT;
+  Shell.SelectEnter = 1;
+  Match.challenger = 0;
+}
+
+namespace {
+
+bool victory_running() {
+  const int a0 = fighters[0].action, a1 = fighters[1].action;
+  return a0 == 12 || a0 == 13 || a1 == 12 || a1 == 13;
+}
+
+// The round's bars, clock and marks are shown until the closing replay takes the screen.
+bool hud_base_shown() {
+  const bool closing = Match.after_ko && Match.after_ko_frames >= 50;
+  return !closing && Match.win_pose_count == 0 && Match.demo != 1;
+}
+
+void draw_fight_picture() {
+  // The stage covers the whole screen, so the colour buffer is not cleared.
+  Clear_Depth();
+  Draw_Stage();
+  DrainGauges();
+  if (hud_base_shown()) {
+    resolve_time_over();
+    Set_DrawMode(40);
+  }
+  Draw_Fighters();  // with the effect pass
+  Set_DrawMode(40);
+  if (Shell.SkipPresent == 1)
+    Shell.SkipPresent = 0;
+  else
+    Swap_Buffers();
+}
+
+}  // namespace
 
 void Fight_Draw() {
   Pose_Fighter(0);
@@ -100,23 +151,13 @@ void Fight_Draw() {
     Set_View();
     Place_FighterOnly(0);
     Place_FighterOnly(1);
-    return;
-  }
-  if (Shell.WhiteFrames >= 1) {
+  } else if (Shell.WhiteFrames >= 1) {
     Clear_Screen(255, 255, 255);
     Clear_Depth();
     --Shell.WhiteFrames;
     Swap_Buffers();
-    return;
+  } else {
+    draw_fight_picture();
   }
-  // The stage covers the whole screen, so the colour buffer is not cleared.
-  Clear_Depth();
-  Draw_Stage();
-  DrainGauges();
-  Draw_Fighters();  // with the effect pass
-  Set_DrawMode(40);
-  if (Shell.SkipPresent == 1)
-    Shell.SkipPresent = 0;
-  else
-    Swap_Buffers();
+  if (Match.after_ko == 0 && Match.ko_state == 0 && !victory_running()) update_clock();
 }
