@@ -26,6 +26,10 @@ constexpr int kLookStep = 2;           // degrees a frame the head turns
 struct MoveState {
   std::int32_t wrong_way[2];  // frames spent facing away from the opponent
   std::int32_t ended_at[2];   // frame_count when root tracking last ended
+  // Root tracking takes its body point from the first drawing of the tracked action.
+  std::int32_t capture[2];    // 1 until it has
+  std::int32_t began_at[2];   // frame_count when the tracking began
+  float drawn_x[2], drawn_z[2];  // the positions the next drawing shows
 };
 MoveState Move;
 
@@ -307,12 +311,20 @@ void update_distance() {
 
 float body_height(int fighter) { return fighters[fighter].height; }
 
-void move_step() {
-  root_sync(0);
-  root_sync(1);
-  look_step(0);
-  look_step(1);
-  if (Match.frozen) return;
+namespace {
+
+// The tracked action has been drawn since it began: where its body point stands against the
+// position is what the tracking measures its travel from.
+void capture_start(int fighter) {
+  Fighter& f = fighters[fighter];
+  if (!Move.capture[fighter] || Move.began_at[fighter] == frame_count) return;
+  f.track_root0 = body_x(fighter);
+  f.track_x0 = Move.drawn_x[fighter];
+  f.track_z0 = Move.drawn_z[fighter];
+  Move.capture[fighter] = 0;
+}
+
+void spacing_step() {
   update_distance();
   arena_edge(0);
   arena_edge(1);
@@ -320,19 +332,40 @@ void move_step() {
   update_facing();
 }
 
+}  // namespace
+
+void move_step() {
+  for (int i = 0; i < 2; ++i) {
+    capture_start(i);
+    root_sync(i);
+    look_step(i);
+  }
+  if (!Match.frozen) spacing_step();
+  for (int i = 0; i < 2; ++i) {
+    Move.drawn_x[i] = fighters[i].pos_x;
+    Move.drawn_z[i] = fighters[i].pos_z;
+  }
+}
+
 void reset_spacing() {
   Spacing = SpacingState{};
   Move = MoveState{};
+  for (int i = 0; i < 2; ++i) {
+    Move.drawn_x[i] = fighters[i].pos_x;
+    Move.drawn_z[i] = fighters[i].pos_z;
+  }
   update_distance();
 }
 
 void root_track_begin(int fighter) {
   Fighter& f = fighters[fighter];
   if (f.root_track) return;
-  f.track_root0 = body_x(fighter);
+  f.track_root0 = body_x(fighter);  // until the action's own first drawing is seen
   f.track_x0 = f.pos_x;
   f.track_z0 = f.pos_z;
   f.root_track = 1;
+  Move.capture[fighter] = 1;
+  Move.began_at[fighter] = frame_count;
 }
 
 // The position follows the body point's own travel since the tracking began: wherever the
@@ -340,7 +373,8 @@ void root_track_begin(int fighter) {
 void root_track_end(int fighter) {
   Fighter& f = fighters[fighter];
   if (!f.root_track) return;
-  f.pos_x = body_x(fighter) - (f.track_root0 - f.track_x0);
+  if (!Move.capture[fighter]) f.pos_x = body_x(fighter) - (f.track_root0 - f.track_x0);
+  Move.capture[fighter] = 0;
   f.root_track = 0;
   f.root_sync = 1;
   Move.ended_at[fighter] = frame_count;
