@@ -47,12 +47,21 @@ struct SpacingState {
 extern SpacingState Spacing;
 void move_step();        // once a fight frame
 void update_distance();  // the separation of the two fighters
-void reset_spacing();    // round start: the arena centred on the middle
+void reset_spacing();    // round start: the arena centred on the middle, no flight
 // The height of the fighter's body above its standing height (what "passing over" compares).
 float body_height(int fighter);
 void root_track_begin(int fighter);
 void root_track_end(int fighter);
 void root_sync(int fighter);  // once a frame after the model update: pos_z back to 0
+// A blow that lifts the defender: it flies along the launch arc until it lands.
+void start_launch(int defender, int damage, float launch_speed);
+void stop_launch(int fighter);
+// The movement step's own counters and flights, for saving a fight and putting it back.
+struct MoveSave {
+  unsigned char bytes[128];
+};
+void Move_Save(MoveSave* out);
+void Move_Restore(const MoveSave& in);
 
 // ---- hits, guard and damage (fight_hit.cpp) --------------------------------------------
 void fighter_strike(int attacker);

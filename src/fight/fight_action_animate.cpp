@@ -1,5 +1,6 @@
 // The animation step: one frame of the running action, its own per-frame behaviour, and the
 // follow-up once it reaches its last frame.
+#include "cpu/cpu.h"
 #include "fight/fight.h"
 #include "fight/fight_action_internal.h"
 #include "render/render_effect.h"
@@ -70,8 +71,14 @@ void ko_hold(int fighter) {
   if (Match.ko_wait > kKoWait) Match.ko_wait = kKoWait;
 }
 
+// Thrown and knocked about: the computer may act again as soon as it is up.
+bool knocked_about(int action) {
+  return in_range(action, 82, 103) || in_range(action, 105, 115) || in_range(action, 119, 129);
+}
+
 void running_action(int fighter) {
   Fighter& f = fighters[fighter];
+  if (knocked_about(f.action)) CpuReadyAtOnce(fighter);
   if (f.freeze_other && f.frame > f.act_win_first[f.action]) f.freeze_other = 0;
   if (link_window(fighter)) return;
   if (f.frame == f.act_first[f.action] + 1 && !f.root_track) root_track_begin(fighter);

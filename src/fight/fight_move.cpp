@@ -1,6 +1,7 @@
 // Movement, facing and spacing: the fighters' separation, the arena's edge, pushing apart,
 // facing each other and changing sides, and the model's own root motion.
 #include <cmath>
+#include <cstring>
 
 #include "audio/audio.h"
 #include "fight/fight.h"
@@ -186,6 +187,33 @@ void update_facing() {
 // Along the fighter's facing: +1 when it faces +x.
 float facing_sign(int yaw) { return StepSinTable[wrap_deg(yaw)] > 0.0f ? 1.0f : -1.0f; }
 
+// ---- launches ------------------------------------------------------------------------------
+struct Launch {
+  std::int32_t active;
+  float t, h0, vx, vz, lift;
+};
+Launch Launches[2];
+
+bool launched_reaction(int action) { return action == 157 || action == 158 || action == 167; }
+
+void launch_flight(int fighter) {
+  Fighter& f = fighters[fighter];
+  Launch& l = Launches[fighter];
+  if (!l.active) return;
+  f.pos_x += l.vx;
+  f.pos_z += l.vz;
+  f.height = l.lift * l.t + l.h0 - 4.9f * l.t * l.t;
+  l.t += 0.07f;
+  if (f.height < 0.0f) {
+    f.height = 0.0f;
+    l.active = 0;
+    return;
+  }
+  const int hold_at = launched_reaction(f.action) ? f.act_first[f.action] + 18
+                                                  : f.act_last[f.action] - 2;
+  if (f.frame >= hold_at) f.frame = hold_at - 1;
+}
+
 void floor_strike(int fighter) {
   Fighter& f = fighters[fighter];
   if (f.frame_hit[f.frame] != 5 || f.frame_part[f.frame] != 2) return;
@@ -290,9 +318,32 @@ void jump_arc_step(int fighter) {
 }
 
 void fall_step(int fighter) {
+  launch_flight(fighter);
   floor_strike(fighter);
   air_hold(fighter);
 }
+
+void start_launch(int defender, int damage, float launch_speed) {
+  Fighter& f = fighters[defender];
+  Launch& l = Launches[defender];
+  const float d = static_cast<float>(damage < 3 ? damage : 3);
+  float speed = d * kStep / 10.0f;
+  if (launch_speed >= 2.0f) {
+    l.lift = launch_speed * d / 10.0f;
+    if (faces_away(f) || f.turning) speed *= 1.5f;
+  } else {
+    l.lift = launch_speed * d / 2.0f;
+    speed /= 4.0f;
+  }
+  const int a = wrap_deg(f.face_yaw + 180);  // away from the attacker
+  l.vx = speed * StepSinTable[a] / kStep;
+  l.vz = speed * StepCosTable[a] / kStep;
+  l.t = 0.0f;
+  l.h0 = f.height;
+  l.active = 1;
+}
+
+void stop_launch(int fighter) { Launches[fighter].active = 0; }
 
 // ---- public --------------------------------------------------------------------------------
 void update_distance() {
@@ -350,6 +401,7 @@ void move_step() {
 void reset_spacing() {
   Spacing = SpacingState{};
   Move = MoveState{};
+  Launches[0] = Launches[1] = Launch{};
   for (int i = 0; i < 2; ++i) {
     Move.drawn_x[i] = fighters[i].pos_x;
     Move.drawn_z[i] = fighters[i].pos_z;
@@ -389,4 +441,17 @@ void root_sync(int fighter) {
     f.root_sync = 0;
   }
   f.pos_z = 0.0f;
+}
+
+// ---- saving a fight ------------------------------------------------------------------------
+static_assert(sizeof(MoveState) + sizeof(Launches) <= sizeof(MoveSave::bytes));
+
+void Move_Save(MoveSave* out) {
+  std::memcpy(out->bytes, &Move, sizeof Move);
+  std::memcpy(out->bytes + sizeof Move, Launches, sizeof Launches);
+}
+
+void Move_Restore(const MoveSave& in) {
+  std::memcpy(&Move, in.bytes, sizeof Move);
+  std::memcpy(Launches, in.bytes + sizeof Move, sizeof Launches);
 }

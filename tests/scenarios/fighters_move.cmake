@@ -29,7 +29,7 @@ endfunction()
 # trace_at(<frame> <prefix>): each fighter's action and X (in thousandths) on that frame.
 function(trace_at frame prefix)
   list(GET lines ${frame} line)
-  if(NOT line MATCHES "^frame=${frame} mode=2 p0=([-0-9.,]+) p1=([-0-9.,]+)$")
+  if(NOT line MATCHES "^frame=${frame} mode=2 p0=([-0-9.,]+) p1=([-0-9.,]+)( .*)?$")
     message(FATAL_ERROR "trace line ${frame} does not read: [${line}]")
   endif()
   set(fighter0 ${CMAKE_MATCH_1})
