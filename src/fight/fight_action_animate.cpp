@@ -17,6 +17,9 @@ bool falling_or_lying(int action) {
   return action == ACT_LYING || action == ACT_LYING_B || is_fall_action(action);
 }
 
+// Standing still raises no dust.
+bool is_standing_idle(int action) { return action == 0 || action == 22 || action == 23; }
+
 // Bigger puffs when a jump lands and a few heavy steps come down.
 bool big_footfall(int action) {
   return action == ACT_JUMP || action == 185 || action == 213 || action == 261 || action == 294;
@@ -103,7 +106,7 @@ void footfalls(int fighter) {
     if (in_range(mark, 1, 3)) puff(fighter, 0);
   } else if (f.action == ACT_CROUCH || f.action == ACT_STAND_UP) {
     if (f.frame == last - 2) puff(fighter, 0);
-  } else if (f.frame == last - 15) {
+  } else if (f.frame == last - 15 && !is_standing_idle(f.action)) {
     puff(fighter, big_footfall(f.action) ? 6 : 0);
   }
 }

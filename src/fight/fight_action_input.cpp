@@ -248,10 +248,11 @@ bool command_check(int fighter) {
   }
   if (!special_allowed(fighter)) return false;
   if (command == 3 && command_throw(fighter)) return true;
-  if (command == 6) f.loop_count = button == 1 ? 2 : 4;
-  const int loops = f.loop_count;
   const bool started = try_special(fighter, slot) != 0;
-  if (command == 6 && (button == 1 || button == 2)) f.loop_count = loops;
+  // The rush of command 6 loops fewer times from the 1-2 pair: twice with button 1, four
+  // times with button 2.
+  if (command == 6 && button == 1) f.loop_count = 2;
+  if (command == 6 && button == 2) f.loop_count = 4;
   return started;
 }
 
@@ -325,7 +326,7 @@ bool crouch_check(int fighter) {
 bool throw_escaped(int fighter) {
   const int o = opponent(fighter);
   const PlayerInput& other = Players[o];
-  if (other.attack2_pressed || other.attack4_pressed) return Match.human[o] != 0;
+  if (other.attack2_pressed || other.attack4_pressed) return true;
   if (Match.human[o]) return false;
   const int chance = 2 * Match.stage_count + 5 < 20 ? 2 * Match.stage_count + 5 : 20;
   return chance > (frame_count + fighters[o].life) % 30;
