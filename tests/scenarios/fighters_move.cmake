@@ -1,6 +1,7 @@
 # A two-player fight on the generated data set, read through --trace: player 1 walks in at
 # 0.24 a frame and stops 4.0 from the opponent, steps back, then each attack button starts its
-# attack, which ends back in the idle.
+# attack, which ends back in the idle; a quarter circle forward with button 1 starts the
+# character's special move of that command.
 include(${SRC}/support/scenario.cmake)
 game_data(data)
 if(NOT EXISTS ${data}/life.bmp)
@@ -8,13 +9,14 @@ if(NOT EXISTS ${data}/life.bmp)
 endif()
 file(WRITE ${WORK}/moves.txt
   "150 down G\n200 up G\n205 down D\n215 up D\n"
-  "240 tap TAB\n330 tap Q\n420 tap CAPSLOCK\n510 tap A\n")
-run_headless(r ${data} --start fight:0:9 --frames 600 --script ${WORK}/moves.txt
+  "240 tap TAB\n330 tap Q\n420 tap CAPSLOCK\n510 tap A\n"
+  "600 down F\n603 down G\n605 up F\n606 tap TAB\n608 up G\n")
+run_headless(r ${data} --start fight:0:9 --frames 640 --script ${WORK}/moves.txt
              --trace ${WORK}/trace.txt)
 expect_equal("exit status" "${r_STATUS}" "0")
 file(STRINGS ${WORK}/trace.txt lines)
 list(LENGTH lines count)
-expect_equal("trace lines" "${count}" "600")
+expect_equal("trace lines" "${count}" "640")
 
 # thousandths(<var> <text>): a number with three decimals as whole thousandths.
 function(thousandths var text)
@@ -76,3 +78,7 @@ foreach(i RANGE 3)
   endforeach()
   expect_equal("attack ${attack} ends back in action 0" "${back}" "1")
 endforeach()
+
+# Down, down-forward, forward and button 1: character 0's special move of that command.
+trace_at(606 s)
+expect_equal("special move of the quarter circle" "${s_action0}" "220")
