@@ -434,10 +434,11 @@ void root_track_end(int fighter) {
 
 void root_sync(int fighter) {
   Fighter& f = fighters[fighter];
-  // The body point must come from a model drawn since the tracking ended.
+  // After the next drawing, the new action's own whole-body offset is taken back out of the
+  // position, so the body stays where the tracked motion left it.
   if (f.root_sync != 0 && !(f.root_sync == 1 && Move.ended_at[fighter] == frame_count)) {
-    const float forward = f.frame_offset[f.frame][2] * facing_sign(f.face_yaw);
-    f.pos_x += (faces_away(f) && f.root_sync == 1) ? -forward : forward;
+    const float back = -f.frame_offset[f.frame][2] * facing_sign(f.face_yaw);
+    f.pos_x += (faces_away(f) && f.root_sync == 1) ? -back : back;
     f.root_sync = 0;
   }
   f.pos_z = 0.0f;

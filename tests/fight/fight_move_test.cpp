@@ -135,7 +135,7 @@ TEST_F(MoveTest, RootSynchronisationKeepsTheFightersOnOneLine) {
   f.frame_offset[f.frame][2] = 0.5f;
   root_sync(0);
   EXPECT_EQ(f.root_sync, 0);
-  EXPECT_FLOAT_EQ(f.pos_x, -0.5f);
+  EXPECT_FLOAT_EQ(f.pos_x, -1.5f);  // the new frame's own offset taken back out
 }
 
 TEST_F(MoveTest, DashCarriesTheBodyAndEndsWhereTheBodyIs) {
