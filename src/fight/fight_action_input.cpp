@@ -543,7 +543,13 @@ bool jump_check(int fighter) {
 // ---- 14. end of the step --------------------------------------------------------------------
 void finish_step(int fighter) {
   Fighter& f = fighters[fighter];
-  if (f.action != ACT_RISE && f.action != ACT_RISE_TURNED) f.grab_fwd = f.grab_back = 0;
+  if (f.action == ACT_RISE || f.action == ACT_RISE_TURNED) {  // which way a rising grab reaches
+    const SideKeys k = side_keys(fighter);
+    if (k.forward) f.grab_fwd = 1;
+    if (k.back) f.grab_back = 1;
+  } else {
+    f.grab_fwd = f.grab_back = 0;
+  }
   if (f.step_timer > 0) --f.step_timer;
   else if (f.step_timer < 0) ++f.step_timer;
 }

@@ -199,6 +199,37 @@ TEST_F(ActionTest, GaugeChargeLoopsWhileHeldAndFillsEveryThirdFrame) {
   hold_key(kKeys[0].b1, false);
 }
 
+TEST_F(ActionTest, SupersNeedAHundredUsablePointsSpecialsDoNot) {
+  Fighter& f = fighters[0];  // character 0: super slot 1 is 221, special slot 13 is 220
+  auto attempt = [&](int command, bool extra, int spend = 0) {
+    start_action(0, 0, 1);
+    f.in_special = f.super_mode = f.freeze_other = 0;
+    f.gauge_spend = spend;
+    Match.flash_state = 0;
+    Players[0] = PlayerInput{};
+    f.cmd_code = command;
+    if (extra) Players[0].extra1_pressed = 1;
+    else Players[0].attack1_pressed = 1;
+    fighter_input(0);
+    return f.action;
+  };
+  f.gauge = 99;
+  EXPECT_NE(attempt(0, false), 221);
+  EXPECT_EQ(f.gauge_spend, 0);
+  EXPECT_EQ(attempt(3, false), 220);  // the special goes out all the same
+  EXPECT_NE(attempt(3, true), 221);
+  f.gauge = 100;
+  EXPECT_EQ(attempt(0, false), 221);
+  EXPECT_EQ(f.gauge_spend, 100);
+  EXPECT_EQ(f.super_mode + f.freeze_other + f.in_special, 3);
+  EXPECT_EQ(Match.flash_state, 1);
+  EXPECT_EQ(attempt(3, true), 221);  // the extra button during command 3: super command 0
+  f.gauge = 150;  // what is still to be drained does not count
+  EXPECT_EQ(attempt(1, false, 40), 191);
+  EXPECT_NE(attempt(1, false, 60), 191);
+  Match.flash_state = 0;
+}
+
 TEST_F(ActionTest, ThrowsAndEscapes) {
   fighters[0].pos_x = -2.2f;
   fighters[1].pos_x = 2.2f;
