@@ -277,6 +277,30 @@ TEST_F(ActionTest, KnockedDownFighterGetsUpOnceLanded) {
   EXPECT_EQ(f.rise_flag, 0);
 }
 
+TEST_F(ActionTest, BeatenFighterStaysDownAndEndsTheWait) {
+  Fighter& f = fighters[0];
+  start_action(0, 82, 1);
+  f.busy = f.reacting = 1;
+  f.life = 0;
+  Match.ko_state = 1;
+  Match.winner = 1;
+  Match.ko_wait = 500;
+  steps(8);
+  EXPECT_EQ(Match.ko_wait, 70);  // a fallen fighter cuts the wait short
+  steps(40);
+  EXPECT_EQ(f.action, 82);  // held two frames before the end of its fall
+  EXPECT_EQ(f.frame, f.act_last[82] - 2);
+  EXPECT_EQ(Match.ko_state, 1);
+
+  f.frame = f.act_last[82];  // a fall that does reach its end: down for good, wait over
+  step();
+  EXPECT_EQ(f.action, 50);
+  EXPECT_EQ(Match.ko_state, 2);
+  EXPECT_EQ(Match.after_ko, 1);
+  steps(5);
+  EXPECT_EQ(f.action, 50);
+}
+
 TEST_F(ActionTest, FighterFacingAwayTurnsAfterFourFrames) {
   Fighter& f = fighters[0];
   f.yaw = 270;
