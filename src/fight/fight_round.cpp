@@ -8,6 +8,7 @@
 #include "fight/fight_round.h"
 #include "fight/fight_state.h"
 #include "camera/camera_fight.h"
+#include "cpu/cpu.h"
 #include "input/input.h"
 #include "shell/shell.h"
 
@@ -106,11 +107,8 @@ void fighters_step() {
   if (Match.hit_stop == 0) {
     for (int i = 0; i < 2; ++i)
       if (!held[i]) fighter_strike(i);
-    for (int i = 0; i < 2; ++i) {
-      if (held[i]) continue;
-      fighter_animate(i);
-      launch_step(i);
-    }
+    for (int i = 0; i < 2; ++i)
+      if (!held[i]) fighter_animate(i);
   } else {
     --Match.hit_stop;
   }
@@ -141,8 +139,10 @@ void fighting_step() {
   for (int i = 0; i < 2; ++i) {
     read_side(i);
     if (may_join(i)) Challenger_Join(i);
-    // The computer opponent plays a computer side here, unless the other side's super
-    // freezes it.
+    // The computer plays a computer side, and a player's side once the other side has won
+    // the match, unless the other side's super freezes it.
+    const bool computer = !Match.human[i] || match_won(opponent(i));
+    if (computer && !fighters[opponent(i)].freeze_other) CpuThink(i, Match.character[i]);
   }
   if (Match.flash_state == 0 || Match.flash_state == -1) fighters_step();
   deciding_blow();

@@ -63,6 +63,14 @@ struct MatchState {
   std::int32_t win_pose_count = 0;   // 0 none, else frames of the win pose plus one
   std::int32_t impact_strength = 0;  // the impact shake the hit code starts
   std::int32_t impact_frames = 0;    // run down by every placement and mesh pass
+  // The fight display's banners, by side: 1 left, 2 right, 0 none. The hit code starts the
+  // first-strike banner at a round's first hit while it is 0; the display counts its frames
+  // and ends it for the round with -1. The reversal banner is started the same way at a
+  // reversal and goes back to 0 when its slide is over.
+  std::int32_t first_strike = 0;
+  std::int32_t first_strike_frame = 0;
+  std::int32_t reversal = 0;
+  std::int32_t reversal_frame = 0;
 
   // Set by the hit code at a deciding special-move blow; the camera reads it.
   std::int32_t ko_closeup = 0;    // knock-out close-up 0 none, 1 on the winner, 2 on the loser
@@ -216,7 +224,5 @@ inline int opponent(int i) { return (i + 1) % 2; }
 void reset_match_fighters();
 // Round start: both fighters to their corners and the match's round state to its start.
 void reset_round();
-// The bars' drain, once per drawn fight frame for both fighters.
-void DrainGauges();
 // Round-start life for a life setting (75, 85 or 103).
 std::int32_t Start_Life(std::int32_t life_setting);
