@@ -1,5 +1,6 @@
 // Where an action goes when it reaches its last frame: the follow-up table, getting up from
 // the floor, and the flags an ending action leaves behind.
+#include "cpu/cpu.h"
 #include "fight/fight.h"
 #include "fight/fight_action_internal.h"
 
@@ -255,6 +256,7 @@ void follow(int fighter, FollowUp kind) {
     case FOLLOW_LIE: get_up(fighter, false); break;
     case FOLLOW_LIE_B: get_up(fighter, true); break;
     case FOLLOW_RISEN:
+      CpuReadyAfterRising(fighter);
       f.yaw = f.face_yaw;
       neutral_end(fighter);
       break;
@@ -274,6 +276,7 @@ void follow(int fighter, FollowUp kind) {
       break;
     case FOLLOW_THROWN: thrown_end(fighter); break;
     case FOLLOW_DODGED:
+      CpuReadyAtOnce(fighter);
       f.yaw = f.face_yaw;
       to_crouch_idle(fighter);
       break;

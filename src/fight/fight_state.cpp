@@ -3,12 +3,9 @@
 #include <cstddef>
 #include <cstring>
 
-<<<<<<< HEAD
 #include "camera/camera_fight.h"
 #include "cpu/cpu.h"
-=======
 #include "fight/fight.h"
->>>>>>> fight1
 #include "render/render_effect.h"
 #include "shell/shell.h"
 
