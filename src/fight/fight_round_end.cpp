@@ -27,7 +27,8 @@ void clear_effects() {
   std::memset(Effects.Hit_Effect, 0, sizeof Effects.Hit_Effect);
   std::memset(Effects.Sparks, 0, sizeof Effects.Sparks);
   Clear_Projectiles();
-  Hits.arc[0].running = Hits.arc[1].running = 0;
+  stop_launch(0);
+  stop_launch(1);
 }
 
 // Both fighters settle for the victory: on the floor, no super, no effects.
@@ -63,6 +64,8 @@ void victory_poses() {
   if (Match.character[w] == 4 && pose == 13) Match.win_pose = 3;
   winner.busy = 0;
   enter_pose(opponent(w), kLying);
+  Match.win_pose_count = 1;  // the camera's win pose starts from its first frame
+  FightCamera.program_frame = 0;
 }
 
 // A drawn last round: who takes the match, or false when both players lose it.
@@ -178,6 +181,7 @@ void Recentre_Camera() {
   const float mz = (fighters[0].pos_z + fighters[1].pos_z) * 0.5f;
   FightCamera.target_x = FightCamera.look_x = mx;
   FightCamera.target_z = FightCamera.look_z = mz;
+  FightCamera.distance = FightCamera.distance_target = OrbitDistance();
 }
 
 void end_round() {

@@ -26,7 +26,6 @@ constexpr Corner kCorners[2] = {
     {5.0f, 270},   // fighter 1
 };
 constexpr float kStandY = 3.2f;
-constexpr std::int32_t kGaugeMax = 300;
 
 // The fight flags and hit data run from root_track up to air_timer in record order; a round
 // start clears them all at once.
@@ -69,25 +68,6 @@ void reset_fighter(int i) {
   f.extra_angle[0] = f.extra_angle[1] = f.extra_angle[2] = 0;
 }
 
-void drain_one(Fighter& f) {
-  if (f.damage > 0) {
-    if (f.drain_delay < 1) {
-      if (f.life > 0) --f.life;
-      --f.damage;
-    } else {
-      --f.drain_delay;
-    }
-  }
-  if (f.gauge_spend > 0) {
-    f.gauge = f.gauge > 2 ? f.gauge - 2 : 0;
-    f.gauge_spend -= 2;
-  }
-  if (f.gauge_gain > 0) {
-    if (f.gauge < kGaugeMax) ++f.gauge;
-    --f.gauge_gain;
-  }
-}
-
 }  // namespace
 
 std::int32_t Start_Life(std::int32_t life_setting) {
@@ -125,12 +105,9 @@ void reset_round() {
   Match.time_rank = 0;
   Match.reverse[0] = Match.reverse[1] = 0;
   CpuRoundStart();
+  Match.first_strike = Match.first_strike_frame = 0;
+  Match.reversal = Match.reversal_frame = 0;
   Clear_Projectiles();  // body-part effects went with each fighter's reset
   reset_spacing();
   Shell.SkipPresent = 1;  // the round's first picture is drawn but not shown
-}
-
-void DrainGauges() {
-  drain_one(fighters[0]);
-  drain_one(fighters[1]);
 }

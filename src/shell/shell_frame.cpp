@@ -1,8 +1,10 @@
 // The per-frame callback and the game-mode machine.
 #include "assets/asset_anim.h"
 #include "audio/audio.h"
+#include "camera/camera_fight.h"
 #include "fight/fight.h"
 #include "fight/fight_state.h"
+#include "hud/hud.h"
 #include "input/input.h"
 #include "platform/platform.h"
 #include "render/render_fighter.h"
@@ -64,29 +66,41 @@ void Run_Frame() {
 
   switch (Shell.GameMode) {
     case MODE_TITLE:
-      fighters[0].streak = 0;
+      Title_Scene();
+      fighters[0].streak = 0;  // a streak ends when the game returns to the title
       fighters[1].streak = 0;
       break;
     case MODE_SELECT:
       Match.demo = 0;
+      Select_Scene();
+      break;
+    case MODE_FIGHT_LOAD:
+      Prepare_Match();
       break;
     case MODE_FIGHT:
       if (Settings.sound == 1 && Cd_IsPlaying() == 0) Music_PlayTrack(MusicTrack);
       Fight_Frame();
       break;
-    case MODE_FIGHT_LOAD:
-      Prepare_Match();
+    case MODE_CONTINUE:
+      Continue_Scene();
+      break;
+    case MODE_OPENING:
+      Opening_Scene();
+      break;
+    case MODE_ENDING:
+      Ending_Scene(Match.winner);
+      break;
+    case MODE_RANKING:
+      Ranking_Scene();
       break;
     case MODE_DEMO_LOAD:
       Prepare_Demo();
       break;
-    case MODE_CONTINUE:
-    case MODE_OPENING:
-    case MODE_ENDING:
-    case MODE_RANKING:
     case MODE_OPTIONS:
+      Options_Scene();
+      break;
     default:
-      break;  // scenes not built yet run nothing
+      break;  // any other mode runs nothing
   }
 }
 
@@ -94,6 +108,7 @@ void Fight_Frame() {
   Fight_Draw();
   if (Match.challenger != 0) return;  // a challenger's banner runs: drawn but frozen
   Fight_Update();
+  UpdateFightCamera();
 }
 
 void Challenger_Step() {
@@ -105,6 +120,7 @@ void Challenger_Step() {
     Prepare.stage_side = 1;
   }
   // Both players choose again in the select screen; the side that played starts from its slot.
+  select_done[0] = select_done[1] = 0;
   Shell.GameMode = MODE_SELECT;
   Shell.SelectEnter = 1;
   Match.challenger = 0;
@@ -131,9 +147,11 @@ void draw_fight_picture() {
   if (hud_base_shown()) {
     resolve_time_over();
     Set_DrawMode(40);
+    DrawHudBase();
   }
   Draw_Fighters();  // with the effect pass
   Set_DrawMode(40);
+  DrawHudMessages();  // also runs out a challenger's notice
   if (Shell.SkipPresent == 1)
     Shell.SkipPresent = 0;
   else

@@ -1,4 +1,4 @@
-// Fighter record and match state: match and round starts, and the bars' drain.
+// Fighter record and match state: match and round starts.
 #include <gtest/gtest.h>
 
 #include "fight/fight_state.h"
@@ -92,33 +92,6 @@ TEST(MatchStart, GaugeStartsAtOneHundredAndModelDataIsCleared) {
       EXPECT_EQ(a.last_point, 3);  // highest point numbers are kept
     }
   }
-}
-
-TEST(Bars, DrainKeepsTheRemainingLifeAndBoundsTheGauge) {
-  Fighter& f = fighters[0];
-  f.life = 85, f.damage = 3, f.drain_delay = 2;
-  f.gauge = 1, f.gauge_spend = 4, f.gauge_gain = 0;
-  fighters[1] = Fighter{};
-  fighters[1].gauge = 300, fighters[1].gauge_gain = 5;
-  const int remaining = f.life - f.damage;
-  int drained = 0;
-  for (int frame = 0; frame < 8; ++frame) {
-    DrainGauges();
-    EXPECT_EQ(f.life - f.damage, remaining);
-    drained += f.damage == 0 && drained == 0 ? frame + 1 : 0;
-  }
-  EXPECT_EQ(drained, 5);  // two frames of delay, then a point a frame
-  EXPECT_EQ(f.life, 82);
-  EXPECT_EQ(f.gauge, 0);
-  EXPECT_EQ(f.gauge_spend, 0);
-  EXPECT_EQ(fighters[1].gauge, 300);
-  EXPECT_EQ(fighters[1].gauge_gain, 0);
-
-  f.life = 1, f.damage = 2, f.drain_delay = 0;
-  DrainGauges();
-  DrainGauges();
-  EXPECT_EQ(f.life, 0);  // not below zero
-  EXPECT_EQ(f.damage, 0);
 }
 
 }  // namespace

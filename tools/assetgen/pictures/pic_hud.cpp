@@ -2,6 +2,7 @@
 // with its level icons, strip and stance badge, name plates, and the small digit sets. Sizes
 // are those of the places they are drawn at (layout pieces in layout units, screen pieces in
 // screen pixels).
+#include <cmath>
 #include <cstdio>
 #include <string>
 
@@ -111,15 +112,22 @@ void Power_Icons(Output& out) {
     }
 }
 
-// The strip animation (64 x 8, seven frames): chevrons of light running toward the gauge's end.
+// The strip animation (64 x 8, seven frames): eight energy cells in the first 52 columns (the
+// part that lies in the gauge's trough), a pulse of light running out from the middle to both
+// ends. It is drawn unmirrored on both sides, so it is symmetric.
 void Power_Strip(Output& out) {
+  constexpr int kCells = 8, kCellW = 5, kPitch = 6, kLeft = 2;
   for (int f = 0; f < 7; ++f) {
     Canvas c = Make_Canvas(64, 8);
-    for (int k = -1; k < 6; ++k) {
-      float x = k * 10 + f * 10.0f / 7;
-      float bright = 0.35f + 0.65f * Clamp01(x / 60);
-      const float pts[] = {x, 0.5f, x + 4, 4, x, 7.5f, x + 3, 7.5f, x + 7, 4, x + 3, 0.5f};
-      Fill_Polygon(c, pts, 6, Hex(0x60E0FF, bright));
+    const float front = f * (kCells / 2.0f) / 7.0f;  // the pulse's distance from the middle
+    for (int k = 0; k < kCells; ++k) {
+      const float d = std::fabs(k + 0.5f - kCells / 2.0f);
+      const float lit = Clamp01(1.0f - std::fabs(d - front - 0.5f) / 1.5f);
+      const Rgba cell = Mix(Hex(0x1C5A78), Hex(0xB0F4FF), lit);
+      const int x = kLeft + k * kPitch;
+      Fill_Rect(c, x, 1, kCellW, 6, cell);
+      Fill_Rect(c, x, 1, kCellW, 1, Mix(cell, Hex(0xFFFFFF), 0.4f));
+      Fill_Rect(c, x, 6, kCellW, 1, Scale(cell, 0.6f));
     }
     char name[16];
     std::snprintf(name, sizeof name, "ma%02d.bmp", 4 + f);
@@ -155,22 +163,115 @@ void Fight_Plates(Output& out) {
   }
 }
 
+// The small labels of the top line and the credit count are only eight pixels high and are
+// drawn at twice their size, so they are set in a pixel font of 5 x 7 letters with a hard dark
+// rim instead of a scaled outline font: every pixel is either letter, rim or clear.
+struct PixelGlyph {
+  char ch;
+  const char* rows[7];
+};
+// clang-format off
+constexpr PixelGlyph kPixelFont[] = {
+    {'0', {".###.", "#...#", "#..##", "#.#.#", "##..#", "#...#", ".###."}},
+    {'1', {"..#..", ".##..", "..#..", "..#..", "..#..", "..#..", ".###."}},
+    {'2', {".###.", "#...#", "....#", "...#.", "..#..", ".#...", "#####"}},
+    {'3', {"#####", "...#.", "..#..", "...#.", "....#", "#...#", ".###."}},
+    {'4', {"...#.", "..##.", ".#.#.", "#..#.", "#####", "...#.", "...#."}},
+    {'5', {"#####", "#....", "####.", "....#", "....#", "#...#", ".###."}},
+    {'6', {"..##.", ".#...", "#....", "####.", "#...#", "#...#", ".###."}},
+    {'7', {"#####", "....#", "...#.", "..#..", ".#...", ".#...", ".#..."}},
+    {'8', {".###.", "#...#", "#...#", ".###.", "#...#", "#...#", ".###."}},
+    {'9', {".###.", "#...#", "#...#", ".####", "....#", "...#.", ".##.."}},
+    {'A', {".###.", "#...#", "#...#", "#####", "#...#", "#...#", "#...#"}},
+    {'B', {"####.", "#...#", "#...#", "####.", "#...#", "#...#", "####."}},
+    {'C', {".###.", "#...#", "#....", "#....", "#....", "#...#", ".###."}},
+    {'D', {"###..", "#..#.", "#...#", "#...#", "#...#", "#..#.", "###.."}},
+    {'E', {"#####", "#....", "#....", "####.", "#....", "#....", "#####"}},
+    {'F', {"#####", "#....", "#....", "####.", "#....", "#....", "#...."}},
+    {'G', {".###.", "#...#", "#....", "#.###", "#...#", "#...#", ".####"}},
+    {'H', {"#...#", "#...#", "#...#", "#####", "#...#", "#...#", "#...#"}},
+    {'I', {".###.", "..#..", "..#..", "..#..", "..#..", "..#..", ".###."}},
+    {'J', {"..###", "...#.", "...#.", "...#.", "...#.", "#..#.", ".##.."}},
+    {'K', {"#...#", "#..#.", "#.#..", "##...", "#.#..", "#..#.", "#...#"}},
+    {'L', {"#....", "#....", "#....", "#....", "#....", "#....", "#####"}},
+    {'M', {"#...#", "##.##", "#.#.#", "#.#.#", "#...#", "#...#", "#...#"}},
+    {'N', {"#...#", "#...#", "##..#", "#.#.#", "#..##", "#...#", "#...#"}},
+    {'O', {".###.", "#...#", "#...#", "#...#", "#...#", "#...#", ".###."}},
+    {'P', {"####.", "#...#", "#...#", "####.", "#....", "#....", "#...."}},
+    {'Q', {".###.", "#...#", "#...#", "#...#", "#.#.#", "#..#.", ".##.#"}},
+    {'R', {"####.", "#...#", "#...#", "####.", "#.#..", "#..#.", "#...#"}},
+    {'S', {".####", "#....", "#....", ".###.", "....#", "....#", "####."}},
+    {'T', {"#####", "..#..", "..#..", "..#..", "..#..", "..#..", "..#.."}},
+    {'U', {"#...#", "#...#", "#...#", "#...#", "#...#", "#...#", ".###."}},
+    {'V', {"#...#", "#...#", "#...#", "#...#", "#...#", ".#.#.", "..#.."}},
+    {'W', {"#...#", "#...#", "#...#", "#.#.#", "#.#.#", "#.#.#", ".#.#."}},
+    {'X', {"#...#", "#...#", ".#.#.", "..#..", ".#.#.", "#...#", "#...#"}},
+    {'Y', {"#...#", "#...#", ".#.#.", "..#..", "..#..", "..#..", "..#.."}},
+    {'Z', {"#####", "....#", "...#.", "..#..", ".#...", "#....", "#####"}},
+    {'/', {"....#", "....#", "...#.", "..#..", ".#...", "#....", "#...."}},
+    {'!', {"..#..", "..#..", "..#..", "..#..", "..#..", ".....", "..#.."}},
+};
+// clang-format on
+constexpr int kGlyphW = 5, kGlyphH = 7, kAdvance = 6;
+
+const PixelGlyph* Find_Glyph(char ch) {
+  for (const PixelGlyph& g : kPixelFont)
+    if (g.ch == ch) return &g;
+  return nullptr;  // a space
+}
+
+// Text in the pixel font with its first letter's left column at x and its top row at y; the
+// upper rows in `top`, the lower in `bottom`, and a one-pixel dark rim all round.
+void Pixel_Text(Canvas& c, const std::string& text, int x, int y, Rgba top, Rgba bottom) {
+  Mask ink = Make_Mask(c.w, c.h);
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const PixelGlyph* g = Find_Glyph(text[i]);
+    if (g == nullptr) continue;
+    for (int gy = 0; gy < kGlyphH; ++gy)
+      for (int gx = 0; gx < kGlyphW; ++gx) {
+        const int px = x + static_cast<int>(i) * kAdvance + gx, py = y + gy;
+        if (g->rows[gy][gx] == '#' && c.inside(px, py)) ink.at(px, py) = 1;
+      }
+  }
+  auto near_ink = [&](int px, int py) {
+    for (int dy = -1; dy <= 1; ++dy)
+      for (int dx = -1; dx <= 1; ++dx)
+        if (ink.get(px + dx, py + dy) > 0) return true;
+    return false;
+  };
+  for (int py = 0; py < c.h; ++py)
+    for (int px = 0; px < c.w; ++px) {
+      if (ink.at(px, py) > 0) {
+        c.at(px, py) = py - y < 4 ? top : bottom;
+      } else if (near_ink(px, py)) {
+        c.at(px, py) = Hex(0x100808);
+      }
+    }
+}
+
+Canvas Pixel_Label(const std::string& text, int w, int x, Rgba top, Rgba bottom) {
+  Canvas c = Make_Canvas(w, 8);
+  Pixel_Text(c, text, x, 0, top, bottom);
+  return c;
+}
+
 // Small digit sets: streak digits and credit digits (layout, 8 x 8), with their labels.
 void Small_Digits(Output& out) {
+  const Rgba gold_top = Hex(0xFFF0A0), gold = Hex(0xFFC030);
+  const Rgba blue_top = Hex(0xD8F4FF), blue = Hex(0x60C0FF);
+  const Rgba white_top = Hex(0xFFFFFF), white = Hex(0xC8D0E0);
   for (int d = 0; d < 10; ++d) {
     std::string t = std::to_string(d);
-    Save_Rgba(out, "cham_no" + t + ".bmp", Text_Cell(t, Style_Tiny(5, Hex(0xFFD040)), 8, 8, 4, 3));
-    Save_Rgba(out, "cr_t" + t + ".bmp", Text_Cell(t, Style_Tiny(5, Hex(0xFFFFFF)), 8, 8, 4, 3));
+    Save_Rgba(out, "cham_no" + t + ".bmp", Pixel_Label(t, 8, 1, gold_top, gold));
+    Save_Rgba(out, "cr_t" + t + ".bmp", Pixel_Label(t, 8, 1, white_top, white));
   }
-  Save_Rgba(out, "t_champ.bmp", Text_Cell_At("CHAMPION", Style_Tiny(6, Hex(0xFFD040)), 64, 8, 0, 4, Align::Left));
-  Save_Rgba(out, "t_challe.bmp",
-            Text_Cell_At("CHALLENGER", Style_Tiny(6, Hex(0x80D0FF)), 64, 8, 0, 4, Align::Left));
-  Save_Rgba(out, "t_start.bmp", Text_Cell_At("PRESS START", Style_Tiny(6, Hex(0xFFFFFF)), 128, 8, 2, 4, Align::Left));
-  Save_Rgba(out, "t_insert.bmp",
-            Text_Cell_At("INSERT COIN", Style_Tiny(6, Hex(0xFFFFFF)), 128, 8, 2, 4, Align::Left));
-  Save_Rgba(out, "t_crdit.bmp", Text_Cell_At("CREDIT", Style_Tiny(6, Hex(0xFFFFFF)), 64, 8, 0, 4, Align::Left));
-  Save_Rgba(out, "t_slsh.bmp", Text_Cell("/", Style_Tiny(6, Hex(0xFFFFFF)), 8, 8, 4, 4));
-  Save_Rgba(out, "life.bmp", Text_Cell_At("LIFE", Style_Tiny(6, Hex(0xFFFFFF)), 32, 8, 0, 4, Align::Left));
+  Save_Rgba(out, "t_champ.bmp", Pixel_Label("CHAMPION", 64, 1, gold_top, gold));
+  Save_Rgba(out, "t_challe.bmp", Pixel_Label("CHALLENGER", 64, 1, blue_top, blue));
+  Save_Rgba(out, "t_start.bmp", Pixel_Label("PRESS START", 128, 2, white_top, white));
+  Save_Rgba(out, "t_insert.bmp", Pixel_Label("INSERT COIN", 128, 2, white_top, white));
+  Save_Rgba(out, "t_crdit.bmp", Pixel_Label("CREDIT", 64, 1, white_top, white));
+  Save_Rgba(out, "t_slsh.bmp", Pixel_Label("/", 8, 1, white_top, white));
+  Save_Rgba(out, "life.bmp", Pixel_Label("LIFE", 32, 1, white_top, white));
 }
 
 }  // namespace

@@ -110,10 +110,11 @@ void Banners(Output& out) {
     }
     Save_Rgba(out, k ? "rvrsl.bmp" : "frstat.bmp", c);
   }
-  // The combo label beside the digits (layout (10, 49), letters within its first 50 columns).
+  // The combo label (layout (10, 49), letters within its first 50 columns): it stands before
+  // the digits on the left and after them on the right, so it reads either way round.
   TextStyle hits = Style_Gold(9, 48);
   hits.face = Face::SansBoldOblique;
-  Save_Rgba(out, "hitcombo.bmp", Text_Cell_At("HITS", hits, 64, 16, 2, 8, Align::Left));
+  Save_Rgba(out, "hitcombo.bmp", Text_Cell_At("COMBO", hits, 64, 16, 2, 8, Align::Left));
   // The challenger notice at layout (76, 101), centred on the layout screen's middle (x 160).
   Canvas ch = Make_Canvas(256, 64);
   Fill_Rect(ch, 0, 6, 168, 32, Hex(0x000000, 0.55f));
@@ -152,9 +153,14 @@ void Continue_Calls(Output& out) {
     Save_Rgb(out, k ? "contibk2.bmp" : "contibk1.bmp", bk);
   }
   Save_Rgba(out, "gameover.bmp", Text_Cell("GAME OVER", Style_Cold(40, 216), 256, 64, 112, 32));
-  // CONGRATULATIONS! over (91, 302) 256 wide and (352, 302) 128 wide.
+  // CONGRATULATIONS! over (91, 302) 256 wide and (352, 302) 128 wide. The five columns
+  // between the two sprites are never drawn, so the word ends at the first one's edge and the
+  // mark starts past the gap.
   ScreenCanvas c = Make_Screen();
-  Screen_Text(c, "CONGRATULATIONS!", Style_Call(30, 330), 256, 334);
+  TextStyle cg = Style_Call(30);
+  while (cg.height > 8 && Text_Styled("CONGRATULATIONS", cg).c.w > 252) --cg.height;
+  Text_Place(c.c, "CONGRATULATIONS", cg, 342 + c.margin, 334 + c.margin, Align::Right);
+  Text_Place(c.c, "!", cg, 355 + c.margin, 334 + c.margin, Align::Left);
   Save_Rgba(out, "congrat.bmp", Screen_Piece(c, 91, 302, 256, 64));
   Save_Rgba(out, "congrat2.bmp", Screen_Piece(c, 352, 302, 128, 64));
 }
@@ -162,8 +168,10 @@ void Continue_Calls(Output& out) {
 void Record_Message(Output& out) {
   // "RECORD TIME [1ST] PLACE!" on the line at screen y 225: halves at 85 and 287, the rank
   // at 214.
-  TextStyle s = Style_Gold(18, 124);
+  // Both halves in one size: the largest at which the first fits its sprite.
+  TextStyle s = Style_Gold(18);
   s.face = Face::SansBoldOblique;
+  while (s.height > 8 && Text_Styled("RECORD TIME", s).c.w > 124) --s.height;
   Save_Rgba(out, "spfon1.bmp", Text_Cell_At("RECORD TIME", s, 128, 32, 124, 16, Align::Right));
   Save_Rgba(out, "spfon2.bmp", Text_Cell_At("PLACE!", s, 128, 32, 4, 16, Align::Left));
   const char* ranks[5] = {"1ST", "2ND", "3RD", "4TH", "5TH"};
