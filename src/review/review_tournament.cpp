@@ -15,6 +15,7 @@
 #include "fight/fight.h"
 #include "fight/fight_moves.h"
 #include "fight/fight_state.h"
+#include "hud/hud.h"
 #include "platform/headless/headless.h"
 #include "platform/platform.h"
 #include "render/render_fighter.h"
