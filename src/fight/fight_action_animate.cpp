@@ -17,6 +17,9 @@ bool falling_or_lying(int action) {
   return action == ACT_LYING || action == ACT_LYING_B || is_fall_action(action);
 }
 
+// Standing still raises no dust.
+bool is_standing_idle(int action) { return action == 0 || action == 22 || action == 23; }
+
 // Bigger puffs when a jump lands and a few heavy steps come down.
 bool big_footfall(int action) {
   return action == ACT_JUMP || action == 185 || action == 213 || action == 261 || action == 294;
@@ -71,8 +74,14 @@ void ko_hold(int fighter) {
   if (Match.ko_wait > kKoWait) Match.ko_wait = kKoWait;
 }
 
+// Thrown and knocked about: the computer may act again as soon as it is up.
+bool knocked_about(int action) {
+  return in_range(action, 82, 103) || in_range(action, 105, 115) || in_range(action, 119, 129);
+}
+
 void running_action(int fighter) {
   Fighter& f = fighters[fighter];
+  if (knocked_about(f.action)) CpuReadyAtOnce(fighter);
   if (f.freeze_other && f.frame > f.act_win_first[f.action]) f.freeze_other = 0;
   if (link_window(fighter)) return;
   if (f.frame == f.act_first[f.action] + 1 && !f.root_track) root_track_begin(fighter);
@@ -97,7 +106,7 @@ void footfalls(int fighter) {
     if (in_range(mark, 1, 3)) puff(fighter, 0);
   } else if (f.action == ACT_CROUCH || f.action == ACT_STAND_UP) {
     if (f.frame == last - 2) puff(fighter, 0);
-  } else if (f.frame == last - 15) {
+  } else if (f.frame == last - 15 && !is_standing_idle(f.action)) {
     puff(fighter, big_footfall(f.action) ? 6 : 0);
   }
 }
