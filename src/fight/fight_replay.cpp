@@ -72,7 +72,8 @@ void closing_input(int side) {
       Players[side].start_pressed = 0;
     }
   }
-  if (Challenger_Join(side)) {
+  if (Challenger_Join(side)) {  // the replay runs on to its end under the challenger's notice
+    Match.replay_pos = ring_step(Match.replay_mark, -1);
     Match.ko_state = 0;
     Match.time_rank = 0;
   }

@@ -168,6 +168,8 @@ TEST_F(Blow, CatchingAFighterWithItsStrikeOutAddsAThirdAndCancelsIt) {
   apply_blow(0, 1, 1, 5, 0);
   EXPECT_EQ(fighters[1].damage, 8);
   EXPECT_EQ(fighters[1].hit_new, 0);
+  EXPECT_EQ(Match.reversal, 1);      // announced for the fighter on the left
+  EXPECT_EQ(Match.first_strike, 1);  // and it was the round's first blow
 
   SetUp();  // a super move gets no counter bonus
   fighters[1].hit_new = 1;
