@@ -136,9 +136,6 @@ void fighter_animate(int fighter) {
   Fighter& f = fighters[fighter];
   if (!in_range(f.action, 0, MAX_ACTIONS - 1)) return;
   guard_stun(f);
-  // Knocked about, the computer is ready to answer the moment it can.
-  const int a = f.action;
-  if (in_range(a, 82, 103) || in_range(a, 105, 115) || in_range(a, 119, 129)) CpuReadyAtOnce(fighter);
   const bool lying = f.action == ACT_LYING || f.action == ACT_LYING_B;
   if (lying) get_up(fighter, f.action == ACT_LYING_B);
   else if (f.action < 600 && f.frame >= f.act_last[f.action]) end_action(fighter);
