@@ -180,6 +180,8 @@ bool try_counter(int attacker, int defender, int by_projectile) {
   if (a.super_mode || a.reacting || a.frame_part[a.frame] > 16) return false;
   start_action(defender, kCounterMove, 1);
   set_reaction(attacker, kCountered);
+  Match.reversal = defender + 1;  // the display's reversal banner
+  Match.reversal_frame = 0;
   return true;
 }
 
@@ -199,6 +201,10 @@ int scaled_damage(Fighter& a, Fighter& d, int damage) {
 }
 
 void count_combo(Fighter& a) {
+  if (Match.first_strike == 0) {  // the display's first-strike banner, once a round
+    Match.first_strike = &a == &fighters[0] ? 1 : 2;
+    Match.first_strike_frame = 0;
+  }
   ++a.combo;
   if (a.combo_show < 21)
     a.combo_show = 30;
