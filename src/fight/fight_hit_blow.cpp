@@ -70,6 +70,7 @@ bool airborne(int fighter) { return fighters[fighter].height > 0.0f || Hits.arc[
 // The computer's guard slips: only for strong opponents that do not know the attack.
 bool cpu_misses(int defender, int guard_class) {
   if (Cpu.CpuBaseLevel[defender] <= 50 || guard_class < 1 || guard_class > 3) return false;
+  if (CpuKnowsMove(defender, fighters[opponent(defender)].action)) return false;
   const int d = std::min(Settings.difficulty, 3);
   const MissRule& rule = kMiss[guard_class];
   const int chance = (3 - rule.slope * d + Cpu.CpuLevel[defender]) / rule.divisor;
@@ -93,6 +94,14 @@ bool guards(int defender, int guard_class) {
   if (guard_class == 2) ready = in_list(kCpuHigh, d.action) || rising_back;
   if (guard_class == 3) ready = in_list(kCpuLow, d.action);
   return ready && !cpu_misses(defender, guard_class);
+}
+
+// The computer learns from a blow that lands: what hit it, what it was doing, and (when it
+// plays the side) how quickly to answer.
+void cpu_learns(int attacker, int defender, int damage) {
+  CpuRememberHit(defender, fighters[attacker].action);
+  CpuRememberInterrupted(defender);
+  if (!Match.human[defender]) CpuAdjustLevel(defender, damage, attacker);
 }
 
 void enter_guard(int defender, int action) {
@@ -293,6 +302,7 @@ void apply_blow(int attacker, int defender, int guard_class, int damage, int by_
     }
   } else {
     if (try_counter(attacker, defender, by_projectile)) return;
+    cpu_learns(attacker, defender, damage);
     if (!by_projectile && try_hit_grab(attacker, defender)) return;
     d.knock_force = std::max(damage, 5);
     d.queued = 0;

@@ -8,6 +8,7 @@
 #include "fight/fight_round.h"
 #include "fight/fight_state.h"
 #include "camera/camera_fight.h"
+#include "cpu/cpu.h"
 #include "input/input.h"
 #include "shell/shell.h"
 
@@ -141,8 +142,10 @@ void fighting_step() {
   for (int i = 0; i < 2; ++i) {
     read_side(i);
     if (may_join(i)) Challenger_Join(i);
-    // The computer opponent plays a computer side here, unless the other side's super
-    // freezes it.
+    // The computer plays a computer side, and a player's side once the other side has won
+    // the match, unless the other side's super freezes it.
+    const bool computer = !Match.human[i] || match_won(opponent(i));
+    if (computer && !fighters[opponent(i)].freeze_other) CpuThink(i, Match.character[i]);
   }
   if (Match.flash_state == 0 || Match.flash_state == -1) fighters_step();
   deciding_blow();

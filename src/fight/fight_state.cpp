@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "camera/camera_fight.h"
+#include "cpu/cpu.h"
 #include "fight/fight.h"
 #include "render/render_effect.h"
 #include "shell/shell.h"
@@ -105,6 +106,7 @@ void reset_round() {
   Match.reverse[0] = Match.reverse[1] = 0;
   Match.first_strike = Match.first_strike_frame = 0;
   Match.reversal = Match.reversal_frame = 0;
+  CpuRoundStart();
   Clear_Projectiles();  // body-part effects went with each fighter's reset
   reset_spacing();
   Shell.SkipPresent = 1;  // the round's first picture is drawn but not shown

@@ -4,10 +4,13 @@
 //                     [--start fight:S0:S1 | --start demo]
 //   valdrune-headless --data DIR --pose CHAR:ACTION:FRAME --out FILE.png
 //   valdrune-headless --data DIR --sheet OUTDIR
+//   valdrune-headless --data DIR --tournament N [--level L] [--usage]
 // --start enters a two-player match of select slots S0 and S1 (0..29), or a demonstration,
 // instead of the opening. --pose draws character row CHAR (0..29) in frame FRAME of ACTION
 // (counted from the action's first frame); --sheet writes OUTDIR/sheet-CC.png, the key poses
-// of each character.
+// of each character. --tournament fights every character against every other, N rounds each
+// way, computer against computer at level L (default 70) without drawing, and prints a line
+// per character and a summary (--usage adds each character's action counts).
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -19,6 +22,7 @@
 
 #include "platform/headless/headless.h"
 #include "review/review.h"
+#include "review/review_tournament.h"
 #include "review/review_trace.h"
 #include "shell/shell.h"
 #include "shell/shell_prepare.h"
@@ -30,7 +34,8 @@ int usage() {
                "usage: valdrune-headless --data DIR [--frames N] [--script FILE]"
                " [--shots OUTDIR --shot-every K] [--start fight:S0:S1 | --start demo]\n"
                "       valdrune-headless --data DIR --pose CHAR:ACTION:FRAME --out FILE.png\n"
-               "       valdrune-headless --data DIR --sheet OUTDIR\n");
+               "       valdrune-headless --data DIR --sheet OUTDIR\n"
+               "       valdrune-headless --data DIR --tournament N [--level L] [--usage]\n");
   return 2;
 }
 
@@ -59,6 +64,8 @@ int main(int argc, char** argv) {
   const char* pose = nullptr;   // review tools
   const char* out = nullptr;
   const char* sheet = nullptr;
+  TournamentOptions tournament;
+  int tournament_on = 0, level_given = 0;
   for (int i = 1; i < argc; ++i) {
     const bool has_value = i + 1 < argc;
     if (!std::strcmp(argv[i], "--data") && has_value) data = argv[++i];
@@ -70,6 +77,11 @@ int main(int argc, char** argv) {
     else if (!std::strcmp(argv[i], "--pose") && has_value) pose = argv[++i];
     else if (!std::strcmp(argv[i], "--out") && has_value) out = argv[++i];
     else if (!std::strcmp(argv[i], "--sheet") && has_value) sheet = argv[++i];
+    else if (!std::strcmp(argv[i], "--tournament") && has_value &&
+             Review_ParseRounds(argv[i + 1], &tournament.rounds)) tournament_on = ++i;
+    else if (!std::strcmp(argv[i], "--level") && has_value &&
+             Review_ParseLevel(argv[i + 1], &tournament.level)) level_given = ++i;
+    else if (!std::strcmp(argv[i], "--usage")) tournament.usage = 1;
     else if (!std::strcmp(argv[i], "--trace") && has_value && Review_TraceOpen(argv[i + 1])) ++i;
     else return usage();
   }
@@ -78,6 +90,7 @@ int main(int argc, char** argv) {
   if (pose && (out == nullptr || sheet || !Review_ParsePose(pose, &row, &action, &frame)))
     return usage();
   if (out && !pose) return usage();
+  if ((level_given || tournament.usage) && !tournament_on) return usage();
 
   char script_path[1100];
   char shots_path[1100];
@@ -103,6 +116,7 @@ int main(int argc, char** argv) {
   }
   if (pose) return Review_Pose(row, action, frame, review_path);
   if (sheet) return Review_Sheets(review_path);
+  if (tournament_on) return Review_Tournament(tournament);
   Headless_SetFrameLimit(frames);
   if (shots) Headless_SetShots(shots_path, every);
   Headless_SetModeProbe(current_mode);

@@ -1,0 +1,195 @@
+// The tournament: each ordered pair of different characters (first colours) fights a number
+// of rounds with the computer on both sides, stepped as an undrawn fight frame steps them:
+// poses and part boxes, the fight's update, its clock. A round ends at the deciding blow or
+// when the clock runs out.
+#include "review/review_tournament.h"
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+
+#include "assets/asset_anim.h"
+#include "assets/asset_character.h"
+#include "cpu/cpu.h"
+#include "fight/fight.h"
+#include "fight/fight_moves.h"
+#include "fight/fight_state.h"
+#include "platform/headless/headless.h"
+#include "platform/platform.h"
+#include "render/render_fighter.h"
+#include "render/render_math.h"
+#include "render/render_view.h"
+#include "shell/shell.h"
+
+namespace {
+
+constexpr long ROUND_FRAME_LIMIT = 20000;  // a round whose clock never runs out ends here
+
+enum RoundEnd { ROUND_RUNNING, ROUND_KO, ROUND_TIME };
+
+struct Tally {
+  long wins, rounds, ko, timeouts, frames;
+  long usage[MAX_ACTIONS];  // times the character entered each action
+};
+
+// The tournament's results; written only by this file's steps.
+struct TournamentState {
+  Tally tally[CHARACTERS];
+  long rounds, kos, frames;
+  double seconds;  // time spent stepping fights
+};
+TournamentState T;
+
+bool open_fight() {
+  if (!Plat_OpenWindow("tournament")) return false;
+  Set_FixedGLState();
+  Window_Reshape(HEADLESS_WIDTH, HEADLESS_HEIGHT);
+  Build_SinCosTables();
+  if (!Load_PreloadFA("PRELOAD.FA")) return false;
+  Build_AngleTables();
+  build_move_tables();
+  return true;
+}
+
+bool load_pair(int c0, int c1) {
+  Shell.GameMode = MODE_FIGHT;
+  select_slot[0] = Match.character[0] = c0;
+  select_slot[1] = Match.character[1] = c1;
+  Match.human[0] = Match.human[1] = 0;
+  Match.demo = 0;
+  Match.stage_count = 0;
+  reset_match_fighters();
+  return Load_Character(0) && Load_Character(1);
+}
+
+void start_round(int level) {
+  Shell.GameMode = MODE_FIGHT;
+  fighters[0].wins = fighters[1].wins = 0;
+  reset_round();
+  Match.intro = -1;  // straight into the fight
+  Match.fight_call = 0;
+  Match.clock_reset = 1;
+  for (int i = 0; i < 2; ++i) Cpu.CpuLevel[i] = Cpu.CpuBaseLevel[i] = level;
+}
+
+// One undrawn fight frame.
+void step() {
+  if (++frame_count == 30000) frame_count = 0;
+  Pose_Fighter(0);
+  Pose_Fighter(1);
+  Set_View();
+  Place_FighterOnly(0);
+  Place_FighterOnly(1);
+  Fight_Update();
+  const int a0 = fighters[0].action, a1 = fighters[1].action;
+  const bool posing = a0 == 12 || a0 == 13 || a1 == 12 || a1 == 13;
+  if (Match.after_ko == 0 && Match.ko_state == 0 && !posing) update_clock();
+}
+
+RoundEnd round_end() {
+  if (Match.ko_state != 0) return ROUND_KO;
+  if (Match.time_over) return ROUND_TIME;
+  return ROUND_RUNNING;
+}
+
+int remaining(int i) { return fighters[i].life - fighters[i].damage; }
+
+// The side that won a finished round, or -1 for a draw.
+int round_winner(RoundEnd end) {
+  if (end == ROUND_KO) return Match.winner;
+  if (remaining(0) == remaining(1)) return -1;
+  return remaining(0) > remaining(1) ? 0 : 1;
+}
+
+void count_round(const int character[2], RoundEnd end, long frames) {
+  const int winner = round_winner(end);
+  ++T.rounds;
+  if (end == ROUND_KO) ++T.kos;
+  for (int i = 0; i < 2; ++i) {
+    Tally& t = T.tally[character[i]];
+    ++t.rounds;
+    t.frames += frames;
+    if (end == ROUND_TIME) ++t.timeouts;
+    if (winner == i) {
+      ++t.wins;
+      if (end == ROUND_KO) ++t.ko;
+    }
+  }
+}
+
+void play_round(const int character[2], int level) {
+  start_round(level);
+  int last[2] = {-1, -1};
+  RoundEnd end = ROUND_RUNNING;
+  long frames = 0;
+  const auto begin = std::chrono::steady_clock::now();
+  while (end == ROUND_RUNNING && frames < ROUND_FRAME_LIMIT) {
+    step();
+    ++frames;
+    for (int i = 0; i < 2; ++i) {
+      const int a = fighters[i].action;
+      if (a != last[i] && a >= 0 && a < MAX_ACTIONS) ++T.tally[character[i]].usage[a];
+      last[i] = a;
+    }
+    end = round_end();
+  }
+  T.seconds += std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+  T.frames += frames;
+  count_round(character, end == ROUND_RUNNING ? ROUND_TIME : end, frames);
+}
+
+void print_results(int usage) {
+  for (int c = 0; c < CHARACTERS; ++c) {
+    const Tally& t = T.tally[c];
+    const long mean = t.rounds > 0 ? t.frames / t.rounds : 0;
+    std::printf("char=%d wins=%ld rounds=%ld ko=%ld timeouts=%ld mean_frames=%ld\n", c, t.wins,
+                t.rounds, t.ko, t.timeouts, mean);
+  }
+  if (usage) {
+    for (int c = 0; c < CHARACTERS; ++c) {
+      std::printf("usage char=%d", c);
+      for (int a = 0; a < MAX_ACTIONS; ++a)
+        if (T.tally[c].usage[a] > 0) std::printf(" %d:%ld", a, T.tally[c].usage[a]);
+      std::printf("\n");
+    }
+  }
+  const double share = T.rounds > 0 ? static_cast<double>(T.kos) / T.rounds : 0.0;
+  const double fps = T.seconds > 0 ? T.frames / T.seconds : 0.0;
+  std::printf("tournament rounds=%ld ko_share=%.3f frames_per_second=%.0f\n", T.rounds, share,
+              fps);
+}
+
+bool parse_int(const char* text, int low, int high, int* out) {
+  char* end = nullptr;
+  const long v = std::strtol(text, &end, 10);
+  if (end == text || *end != '\0' || v < low || v > high) return false;
+  *out = static_cast<int>(v);
+  return true;
+}
+
+}  // namespace
+
+bool Review_ParseRounds(const char* text, int* rounds) { return parse_int(text, 1, 1000, rounds); }
+bool Review_ParseLevel(const char* text, int* level) { return parse_int(text, 20, 200, level); }
+
+int Review_Tournament(const TournamentOptions& options) {
+  if (!open_fight()) {
+    std::fprintf(stderr, "valdrune-headless: the data set has no usable PRELOAD.FA\n");
+    return 1;
+  }
+  T = TournamentState{};
+  for (int c0 = 0; c0 < CHARACTERS; ++c0) {
+    for (int c1 = 0; c1 < CHARACTERS; ++c1) {
+      if (c0 == c1) continue;
+      if (!load_pair(c0, c1)) {
+        std::fprintf(stderr, "valdrune-headless: characters %d and %d cannot be loaded\n", c0, c1);
+        return 1;
+      }
+      const int character[2] = {c0, c1};
+      for (int r = 0; r < options.rounds; ++r) play_round(character, options.level);
+    }
+  }
+  print_results(options.usage);
+  std::fflush(stdout);
+  return 0;
+}
