@@ -112,6 +112,7 @@ void match_lost(int loser) {
   } else {
     to_mode(MODE_CONTINUE);
     ContinueTimer = 0;
+    Continue_Begin(loser);
     Enter_StreakRanking(loser);
   }
 }

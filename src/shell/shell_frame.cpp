@@ -66,29 +66,41 @@ void Run_Frame() {
 
   switch (Shell.GameMode) {
     case MODE_TITLE:
-      fighters[0].streak = 0;
+      Title_Scene();
+      fighters[0].streak = 0;  // a streak ends when the game returns to the title
       fighters[1].streak = 0;
       break;
     case MODE_SELECT:
       Match.demo = 0;
+      Select_Scene();
+      break;
+    case MODE_FIGHT_LOAD:
+      Prepare_Match();
       break;
     case MODE_FIGHT:
       if (Settings.sound == 1 && Cd_IsPlaying() == 0) Music_PlayTrack(MusicTrack);
       Fight_Frame();
       break;
-    case MODE_FIGHT_LOAD:
-      Prepare_Match();
+    case MODE_CONTINUE:
+      Continue_Scene();
+      break;
+    case MODE_OPENING:
+      Opening_Scene();
+      break;
+    case MODE_ENDING:
+      Ending_Scene(Match.winner);
+      break;
+    case MODE_RANKING:
+      Ranking_Scene();
       break;
     case MODE_DEMO_LOAD:
       Prepare_Demo();
       break;
-    case MODE_CONTINUE:
-    case MODE_OPENING:
-    case MODE_ENDING:
-    case MODE_RANKING:
     case MODE_OPTIONS:
+      Options_Scene();
+      break;
     default:
-      break;  // scenes not built yet run nothing
+      break;  // any other mode runs nothing
   }
 }
 
@@ -108,6 +120,7 @@ void Challenger_Step() {
     Prepare.stage_side = 1;
   }
   // Both players choose again in the select screen; the side that played starts from its slot.
+  select_done[0] = select_done[1] = 0;
   Shell.GameMode = MODE_SELECT;
   Shell.SelectEnter = 1;
   Match.challenger = 0;

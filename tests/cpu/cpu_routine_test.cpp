@@ -1,5 +1,6 @@
 // The character routines: what the computer does by distance and situation.
 #include "cpu/cpu_fixture.h"
+#include "fight/fight_moves.h"
 
 namespace {
 
