@@ -29,9 +29,6 @@
 
 OpeningState Opening;
 
-// Plays one frame of a recorded camera path anchored on a fighter; 1 when it was the last.
-int PlayCameraPath(int path, int fighter, int end_action);
-
 namespace {
 
 constexpr int kFlower = 450;  // the floor's flower pattern
@@ -187,7 +184,10 @@ void draw_fight(int s) {
   }
   Set_DrawMode(141);
   Blend_Normal();
-  white_over(frame_count % 16 == 0 ? 128 : 64, Opening.OpeningFade != 0);  // a flicker
+  // A faint flicker over the last picture, which trails the motion; the fight is drawn over
+  // it, so the overlay's depth is cleared.
+  white_over(frame_count % 16 == 0 ? 128 : 64, Opening.OpeningFade != 0);
+  Clear_Depth();
   if (Opening.OpeningWhite >= 1) {
     Opening.OpeningWhite += kWhiteStep;
     Clear_Depth();
