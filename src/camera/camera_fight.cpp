@@ -5,6 +5,7 @@
 #include "camera/camera_fight.h"
 #include "camera/camera_path.h"
 #include "camera/camera_scene.h"
+#include "fight/fight.h"
 #include "fight/fight_state.h"
 #include "render/render_fighter.h"
 #include "render/render_view.h"
@@ -15,6 +16,7 @@ constexpr float kNearDistance = 15.0f;   // the follow distance while the fighte
 constexpr float kNearSeparation = 14.0f;
 constexpr float kFarDistance = 45.0f;    // the farthest the camera ever pulls back
 constexpr float kLiftPerUnit = 2.6f;     // pulling back past 15 raises the look-at 1 per 2.6
+constexpr float kStageRadius = 25.0f;
 constexpr float kStageMargin = 8.0f;     // the look-at keeps this far inside the stage edge
 constexpr float kOrbitNear = 11.0f;
 constexpr float kOrbitStretch = 1.1f;
@@ -53,17 +55,30 @@ constexpr OrbitBand kOrbitBands[kOrbitCycle / kOrbitBand] = {
 
 bool is_down(int i) { return fighters[i].life - fighters[i].damage < 1; }
 
+// The body point of a fighter: where its drawing put the hips on the floor plan, at the
+// height the fight has lifted it.
 CameraScene gather() {
   CameraScene s;
-  const Fighter& a = fighters[0];
-  const Fighter& b = fighters[1];
-  s.mid_x = (a.track_x + b.track_x) / 2.0f;
-  s.mid_z = (a.track_z + b.track_z) / 2.0f;
-  s.separation = Match.distance;
-  s.height_gap = Match.height_gap;
-  for (int i = 0; i < 2; ++i)
-    for (int k = 0; k < 3; ++k) s.body[i][k] = Draw.Body_Centre[i][k];
+  s.mid_x = (Spacing.track_x[0] + Spacing.track_x[1]) / 2.0f;
+  s.mid_z = (Spacing.track_z[0] + Spacing.track_z[1]) / 2.0f;
+  s.separation = Spacing.distance;
+  s.height_gap = Spacing.height_gap;
+  for (int i = 0; i < 2; ++i) {
+    s.body[i][0] = Draw.Body_Centre[i][0];
+    s.body[i][1] = fighters[i].height;
+    s.body[i][2] = Draw.Body_Centre[i][2];
+  }
   return s;
+}
+
+// A throw or hold with camera work picks one of the four throw angles as it starts; the angle
+// holds until neither fighter is in such a move any more.
+void track_throw() {
+  const bool running = fighters[0].special_cam != 0 || fighters[1].special_cam != 0;
+  if (!running)
+    FightCamera.throw_mode = 0;
+  else if (FightCamera.throw_mode == 0)
+    FightCamera.throw_mode = frame_count % 4 + 1;
 }
 
 bool closing_orbit() { return Match.after_ko != 0 && Match.after_ko_frames >= 50; }
@@ -98,7 +113,7 @@ void follow_targets(CameraScene& s) {
   if (Match.intro == -1)
     c.desired_distance = variant == 1 || variant == 2 ? s.separation
                                                       : follow_distance(s.separation);
-  if (Match.throw_camera == 0) {
+  if (FightCamera.throw_mode == 0) {
     c.target_x = src_x;
     c.target_z = src_z;
     c.target_y = follow_height(s);
@@ -152,9 +167,9 @@ bool follows_smoothly() {
 // arena centre, however far out a fighter is knocked.
 void stage_clamp() {
   FightCameraState& c = FightCamera;
-  const float reach = Match.arena_radius - kStageMargin;
-  c.look_x = std::clamp(c.look_x, Match.arena_x - reach, Match.arena_x + reach);
-  c.look_z = std::clamp(c.look_z, Match.arena_z - reach, Match.arena_z + reach);
+  const float reach = kStageRadius - kStageMargin;
+  c.look_x = std::clamp(c.look_x, Spacing.centre_x - reach, Spacing.centre_x + reach);
+  c.look_z = std::clamp(c.look_z, Spacing.centre_z - reach, Spacing.centre_z + reach);
 }
 
 void approach() {
@@ -164,7 +179,7 @@ void approach() {
   if (follows_smoothly()) {
     c.heading_target = Wrap_Angle(359 - c.heading_base);
     SmoothCameraAngles();
-    if (Match.throw_camera == 0) stage_clamp();
+    if (FightCamera.throw_mode == 0) stage_clamp();
     return;
   }
   c.pitch = c.pitch_target;  // a set piece cuts straight to its angles
@@ -176,6 +191,7 @@ void approach() {
 }  // namespace
 
 void UpdateFightCamera() {
+  track_throw();
   CameraScene s = gather();
   if (Match.replay_state != 0)
     replay_targets(s);
@@ -191,7 +207,7 @@ void UpdateFightCamera() {
 }
 
 float OrbitDistance() {
-  const float d = Match.distance, h = Match.height_gap;
+  const float d = Spacing.distance, h = Spacing.height_gap;
   const float lift = h >= 1.0f ? h - 1.0f : 0.0f;
   if (d <= kOrbitNear) return kOrbitNear + lift;
   return std::min(kOrbitNear + kOrbitStretch * (d - kOrbitNear) + lift, kFarDistance);
@@ -202,10 +218,7 @@ void Reset_FightCamera() {
   FightCamera = FightCameraState{};
   FightCamera.desired_distance = desired;
   FightCamera.program_frame = Match.intro == 2 ? CAMERA_OVERHEAD_START : 0;
-  Match.throw_camera = 0;
   Match.ko_closeup = 0;
   Match.win_pose_count = 0;
-  Match.arena_x = Match.arena_z = 0.0f;
-  Match.arena_radius = 25.0f;
   for (CameraPathRecord& p : CameraPath) p.current_frame = 0;
 }

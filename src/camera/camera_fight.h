@@ -24,6 +24,7 @@ struct FightCameraState {
   std::int32_t roll_target = 0, roll = 0;        // always 0
   float eye_x = 0, eye_y = 0, eye_z = 0;         // path playback's eye point
   std::int32_t heading_base = 0;   // the follow logic aims the heading at 359 minus this
+  std::int32_t throw_mode = 0;     // the throw shot's angle 1..4 while a throw runs, else 0
   std::int32_t shot_frame = 0;     // frames since the current throw shot began
   std::int32_t program_frame = 0;  // frame counter of the sweeps, the win pose and paths
 };

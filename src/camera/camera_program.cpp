@@ -172,7 +172,7 @@ bool pose_skipped() {
 
 void Camera_ThrowShot(const CameraScene& s) {
   FightCameraState& c = FightCamera;
-  const int m = Match.throw_camera;
+  const int m = c.throw_mode;
   if (m < 1 || m > 4) return;
   c.pitch = kThrowAngles[m].pitch;
   c.heading_base = kThrowAngles[m].heading_base;

@@ -236,6 +236,9 @@ void deciding_blow(int attacker, int defender, int damage, int reaction) {
     d.frame = d.act_first[170];
   }
   d.busy = d.reacting = 1;
+  // A throw or special move with its own camera work ends on a close-up: of the winner or
+  // of the beaten fighter, as the frame falls.
+  if (a.in_special && a.special_shot != 0) Match.ko_closeup = frame_count % 2 + 1;
   Play_Sound(a.perfect ? SND_PERFECT : SND_KO);
   if (a.super_mode) {
     if (damage < 10) a.super_finish = 1;

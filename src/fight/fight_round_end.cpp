@@ -63,6 +63,8 @@ void victory_poses() {
   if (Match.character[w] == 4 && pose == 13) Match.win_pose = 3;
   winner.busy = 0;
   enter_pose(opponent(w), kLying);
+  Match.win_pose_count = 1;  // the camera's win pose starts from its first frame
+  FightCamera.program_frame = 0;
 }
 
 // A drawn last round: who takes the match, or false when both players lose it.
@@ -179,6 +181,7 @@ void Recentre_Camera() {
   const float mz = (fighters[0].pos_z + fighters[1].pos_z) * 0.5f;
   FightCamera.target_x = FightCamera.look_x = mx;
   FightCamera.target_z = FightCamera.look_z = mz;
+  FightCamera.distance = FightCamera.distance_target = OrbitDistance();
 }
 
 void end_round() {

@@ -64,14 +64,7 @@ struct MatchState {
   std::int32_t impact_strength = 0;  // the impact shake the hit code starts
   std::int32_t impact_frames = 0;    // run down by every placement and mesh pass
 
-  // What the fight camera follows. The spacing step writes the separation, the height gap and
-  // the arena centre; the action machine picks the throw camera mode when a throw or special
-  // move starts; the hit code sets the knock-out close-up at a deciding special-move blow.
-  float distance = 0;        // |x| between the two fighters' tracking points
-  float height_gap = 0;      // |height| between the two bodies, each raised to 0 first
-  float arena_x = 0, arena_z = 0;  // centre of the stage circle
-  float arena_radius = 25.0f;
-  std::int32_t throw_camera = 0;  // throw camera mode 0 none, 1..4
+  // Set by the hit code at a deciding special-move blow; the camera reads it.
   std::int32_t ko_closeup = 0;    // knock-out close-up 0 none, 1 on the winner, 2 on the loser
   // The fight display's banners, by side: 1 left, 2 right, 0 none. The hit code starts the
   // first-strike banner at a round's first hit while it is 0; the display counts its frames
@@ -211,9 +204,6 @@ struct Fighter {
   std::int32_t cmd_hist[CMD_HISTORY] = {};
   std::int32_t queued = 0;         // 1 while a link waits
   std::int32_t queued_action = 0;  // the waiting link's action
-  // The point the spacing measures from (body point or position, chosen by update_distance);
-  // the camera's midpoint is taken between the two.
-  float track_x = 0, track_z = 0;
 
   // Model data: the model loader, the character drawing and the chains own it.
   Attachment attach[ATTACHMENTS] = {};

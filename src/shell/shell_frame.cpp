@@ -1,6 +1,7 @@
 // The per-frame callback and the game-mode machine.
 #include "assets/asset_anim.h"
 #include "audio/audio.h"
+#include "camera/camera_fight.h"
 #include "fight/fight.h"
 #include "fight/fight_state.h"
 #include "hud/hud.h"
@@ -107,6 +108,7 @@ void Fight_Frame() {
   Fight_Draw();
   if (Match.challenger != 0) return;  // a challenger's banner runs: drawn but frozen
   Fight_Update();
+  UpdateFightCamera();
 }
 
 void Challenger_Step() {
