@@ -5,7 +5,8 @@
 //
 // BM_FightFrame and BM_StageOnly draw a scene the benchmark builds itself; BM_FullFightFrame
 // draws the generated data set's real fight (stage, fighters, fight pictures, effect models)
-// with every hit-effect, projectile and spark slot busy.
+// with every hit-effect, projectile and spark slot busy and the fight display as full as a
+// fight makes it, in the order the fight's drawing pass uses.
 //
 //   build/bench/draw_bench [--benchmark_repetitions=N]
 #include <benchmark/benchmark.h>
@@ -23,6 +24,7 @@
 #include "assets/asset_anim.h"
 #include "assets/asset_model.h"
 #include "fight/fight_state.h"
+#include "hud/hud.h"
 #include "platform/headless/headless.h"
 #include "platform/platform.h"
 #include "render/render_effect.h"
@@ -155,13 +157,38 @@ void fill_effects() {
   if (!Effects.Sparks[0].active) Spawn_Sparks(0, 0.0f, 1.0f, 0.0f);
 }
 
+// The display at its busiest: both bars draining, a champion's streak on the top line, a
+// combo count, both power gauges part full, and FIGHT with its glow fading.
+void fill_display() {
+  Match.human[0] = 1;
+  Match.intro = -1;
+  Match.fight_call = 20;
+  Match.clock_left = 4321;
+  fighters[0].streak = 3;
+  for (int i = 0; i < 2; ++i) {
+    Fighter& f = fighters[i];
+    f.life = 85;
+    f.damage = 20 + 10 * i;
+    f.drain_delay = 5;
+    f.gauge = 150 + 100 * i;
+  }
+  fighters[0].combo = 12;
+  fighters[0].combo_show = 20;
+}
+
 void full_fight_frame() {
   fill_effects();
+  fill_display();
   Pose_Fighter(0);
   Pose_Fighter(1);
   Clear_Depth();
   Draw_Stage();
+  DrainGauges();
+  Set_DrawMode(40);
+  DrawHudBase();
   Draw_Fighters();  // with the effect pass
+  Set_DrawMode(40);
+  DrawHudMessages();
   glFinish();
 }
 

@@ -56,6 +56,12 @@ void root_sync(int fighter);  // once a frame after the model update: pos_z back
 // A blow that lifts the defender: it flies along the launch arc until it lands.
 void start_launch(int defender, int damage, float launch_speed);
 void stop_launch(int fighter);
+// The movement step's own counters and flights, for saving a fight and putting it back.
+struct MoveSave {
+  unsigned char bytes[128];
+};
+void Move_Save(MoveSave* out);
+void Move_Restore(const MoveSave& in);
 
 // ---- hits, guard and damage (fight_hit.cpp) --------------------------------------------
 void fighter_strike(int attacker);

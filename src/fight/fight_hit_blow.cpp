@@ -65,7 +65,7 @@ bool holds_back(int fighter) {
   return fighter == Match.side_a ? in.left > 0 : in.right > 0;
 }
 
-bool airborne(int fighter) { return fighters[fighter].height > 0.0f || Hits.arc[fighter].running; }
+bool airborne(int fighter) { return fighters[fighter].height > 0.0f; }
 
 // The computer's guard slips: only for strong opponents that do not know the attack.
 bool cpu_misses(int defender, int guard_class) {
@@ -174,7 +174,7 @@ bool try_hit_grab(int attacker, int defender) {
   a.busy = a.reacting = 1;
   d.busy = d.reacting = 1;
   a.height = d.height = 0.0f;
-  Hits.arc[defender].running = 0;
+  stop_launch(defender);
   const int shout = CharacterVoices[Match.character[defender] & 15].hurt;
   if (shout >= 0) Queue_Sound(2 * defender + 1, shout);
   return true;
@@ -313,7 +313,7 @@ void apply_blow(int attacker, int defender, int guard_class, int damage, int by_
     set_reaction(defender, reaction);
     if (reaction == 157 || reaction == 158 || reaction == 167 || airborne(defender)) {
       d.air_timer = std::max(d.air_timer - dealt, -20);
-      launch_begin(defender, dealt);
+      start_launch(defender, dealt, a.launch_speed);
     }
   }
 
@@ -340,44 +340,4 @@ void apply_blow(int attacker, int defender, int guard_class, int damage, int by_
     deciding_blow(attacker, defender, dealt, reaction);
   }
   if (d.damage > 0) d.perfect = 0;
-}
-
-void launch_begin(int defender, int damage) {
-  const Fighter& d = fighters[defender];
-  const float launch = fighters[opponent(defender)].launch_speed;
-  LaunchArc& arc = Hits.arc[defender];
-  const float m = static_cast<float>(std::min(damage, 3));
-  const int yaw = ((d.face_yaw % 360) + 360) % 360;
-  float speed = m / 10.0f;
-  arc.running = 1;
-  arc.t = 0.0f;
-  arc.h0 = d.height;
-  arc.v = launch;
-  if (launch >= 2.0f) {
-    arc.k = m / 10.0f;
-    if (faces_away(d) || d.turning) speed *= 1.5f;
-  } else {
-    arc.k = m / 2.0f;
-    speed /= 4.0f;
-  }
-  arc.vx = speed * StepSinTable[yaw];
-  arc.vz = speed * StepCosTable[yaw];
-}
-
-void launch_step(int fighter) {
-  Fighter& f = fighters[fighter];
-  LaunchArc& arc = Hits.arc[fighter];
-  if (!arc.running) return;
-  f.pos_x += arc.vx;
-  f.pos_z += arc.vz;
-  f.height = arc.v * arc.k * arc.t + arc.h0 - 4.9f * arc.t * arc.t;
-  arc.t += 0.07f;
-  if (f.height < 0.0f) {
-    f.height = 0.0f;
-    arc.running = 0;
-    return;
-  }
-  const bool launched = f.action == 157 || f.action == 158 || f.action == 167;
-  const int hold = launched ? f.act_first[f.action] + 18 : f.act_last[f.action] - 2;
-  if (f.frame > hold) f.frame = hold;
 }

@@ -1,6 +1,7 @@
 // Movement, facing and spacing: the fighters' separation, the arena's edge, pushing apart,
 // facing each other and changing sides, and the model's own root motion.
 #include <cmath>
+#include <cstring>
 
 #include "audio/audio.h"
 #include "fight/fight.h"
@@ -407,4 +408,17 @@ void root_sync(int fighter) {
     f.root_sync = 0;
   }
   f.pos_z = 0.0f;
+}
+
+// ---- saving a fight ------------------------------------------------------------------------
+static_assert(sizeof(MoveState) + sizeof(Launches) <= sizeof(MoveSave::bytes));
+
+void Move_Save(MoveSave* out) {
+  std::memcpy(out->bytes, &Move, sizeof Move);
+  std::memcpy(out->bytes + sizeof Move, Launches, sizeof Launches);
+}
+
+void Move_Restore(const MoveSave& in) {
+  std::memcpy(&Move, in.bytes, sizeof Move);
+  std::memcpy(Launches, in.bytes + sizeof Move, sizeof Launches);
 }

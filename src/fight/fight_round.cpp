@@ -107,11 +107,8 @@ void fighters_step() {
   if (Match.hit_stop == 0) {
     for (int i = 0; i < 2; ++i)
       if (!held[i]) fighter_strike(i);
-    for (int i = 0; i < 2; ++i) {
-      if (held[i]) continue;
-      fighter_animate(i);
-      launch_step(i);
-    }
+    for (int i = 0; i < 2; ++i)
+      if (!held[i]) fighter_animate(i);
   } else {
     --Match.hit_stop;
   }

@@ -27,7 +27,8 @@ void clear_effects() {
   std::memset(Effects.Hit_Effect, 0, sizeof Effects.Hit_Effect);
   std::memset(Effects.Sparks, 0, sizeof Effects.Sparks);
   Clear_Projectiles();
-  Hits.arc[0].running = Hits.arc[1].running = 0;
+  stop_launch(0);
+  stop_launch(1);
 }
 
 // Both fighters settle for the victory: on the floor, no super, no effects.

@@ -63,9 +63,6 @@ struct MatchState {
   std::int32_t win_pose_count = 0;   // 0 none, else frames of the win pose plus one
   std::int32_t impact_strength = 0;  // the impact shake the hit code starts
   std::int32_t impact_frames = 0;    // run down by every placement and mesh pass
-
-  // Set by the hit code at a deciding special-move blow; the camera reads it.
-  std::int32_t ko_closeup = 0;    // knock-out close-up 0 none, 1 on the winner, 2 on the loser
   // The fight display's banners, by side: 1 left, 2 right, 0 none. The hit code starts the
   // first-strike banner at a round's first hit while it is 0; the display counts its frames
   // and ends it for the round with -1. The reversal banner is started the same way at a
@@ -74,6 +71,9 @@ struct MatchState {
   std::int32_t first_strike_frame = 0;
   std::int32_t reversal = 0;
   std::int32_t reversal_frame = 0;
+
+  // Set by the hit code at a deciding special-move blow; the camera reads it.
+  std::int32_t ko_closeup = 0;    // knock-out close-up 0 none, 1 on the winner, 2 on the loser
 };
 extern MatchState Match;
 

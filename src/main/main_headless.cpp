@@ -22,8 +22,8 @@
 
 #include "platform/headless/headless.h"
 #include "review/review.h"
-#include "review/review_trace.h"
 #include "review/review_tournament.h"
+#include "review/review_trace.h"
 #include "shell/shell.h"
 #include "shell/shell_prepare.h"
 
@@ -77,12 +77,12 @@ int main(int argc, char** argv) {
     else if (!std::strcmp(argv[i], "--pose") && has_value) pose = argv[++i];
     else if (!std::strcmp(argv[i], "--out") && has_value) out = argv[++i];
     else if (!std::strcmp(argv[i], "--sheet") && has_value) sheet = argv[++i];
-    else if (!std::strcmp(argv[i], "--trace") && has_value && Review_TraceOpen(argv[i + 1])) ++i;
     else if (!std::strcmp(argv[i], "--tournament") && has_value &&
              Review_ParseRounds(argv[i + 1], &tournament.rounds)) tournament_on = ++i;
     else if (!std::strcmp(argv[i], "--level") && has_value &&
              Review_ParseLevel(argv[i + 1], &tournament.level)) level_given = ++i;
     else if (!std::strcmp(argv[i], "--usage")) tournament.usage = 1;
+    else if (!std::strcmp(argv[i], "--trace") && has_value && Review_TraceOpen(argv[i + 1])) ++i;
     else return usage();
   }
   if (data == nullptr || frames < 0 || (shots != nullptr) != (every > 0)) return usage();

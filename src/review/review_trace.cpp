@@ -44,6 +44,9 @@ int Review_TraceLine(long frame, char* out, std::size_t size) {
     if (i == 1) out[n++] = ' ';
     n += fighter_fields(i, out + n, size - static_cast<std::size_t>(n));
   }
+  if (n >= 0 && static_cast<std::size_t>(n) < size)  // the round: clock, knock-out, wins
+    n += std::snprintf(out + n, size - static_cast<std::size_t>(n), " clock=%d ko=%d wins=%d,%d",
+                       Match.clock, Match.ko_state, fighters[0].wins, fighters[1].wins);
   if (n < 0) return 0;
   return static_cast<std::size_t>(n) < size ? n : static_cast<int>(size) - 1;
 }

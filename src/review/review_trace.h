@@ -1,6 +1,8 @@
 // The per-frame trace of the headless program: one line a frame of the frame loop,
 //   frame=N mode=M p0=ACTION,FRAME,X,Z,YAW,LIFE,DAMAGE p1=ACTION,FRAME,X,Z,YAW,LIFE,DAMAGE
-// (X and Z with three decimals, the rest whole numbers). Fields may be added after these;
+//   clock=C ko=K wins=W0,W1
+// (X and Z with three decimals, the rest whole numbers; C the round clock, K the knock-out
+// state, W0 and W1 the rounds each side has won). Fields may be added after these;
 // the ones above keep their place and meaning.
 #pragma once
 #include <cstddef>

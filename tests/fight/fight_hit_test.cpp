@@ -43,7 +43,7 @@ class Blow : public ::testing::Test {
     Fighter& f = fighters[i];
     std::memset(f.frame_part, 0, sizeof f.frame_part);
     std::memset(f.frame_hit, 0, sizeof f.frame_hit);
-    std::memset(f.part_box, 0, sizeof f.part_box);
+    for (int p = 0; p < BODY_PARTS; ++p) place_box(i, p, 100.0f * (i + 1), 100.0f, 0.0f, 0.1f);
     f.life = 85;
     f.damage = 0;
     f.combo = 0;

@@ -27,8 +27,9 @@ namespace sim {
 // it) and starts a two-player round past its intro. False when the data set is missing.
 inline bool load_fight(const char* data_dir, int c0, int c1) {
   static int opened = 0;
+  if (chdir(data_dir) != 0) return false;
   if (!opened) {
-    if (!Plat_OpenWindow("sim") || chdir(data_dir) != 0) return false;
+    if (!Plat_OpenWindow("sim")) return false;
     Set_FixedGLState();
     Window_Reshape(HEADLESS_WIDTH, HEADLESS_HEIGHT);
     Build_SinCosTables();
