@@ -125,8 +125,10 @@ void Empty_Side(Output& out) {
   Save_Rgb(out, "scom.bmp", c);
   TextStyle q = Style_Call(100, 120);
   q.face = Face::SerifBold;
-  Save_Rgba(out, "slqus.bmp", Text_Cell("?", q, 128, 128, 69, 64));
-  Save_Rgba(out, "slcom.bmp", Text_Cell("PRESS START", Style_Label(14, 170), 256, 32, 91, 16));
+  // Both are drawn at the left side's x and at the right side's (the question mark at 59 and
+  // 388, the call at 37 and 349), so they keep clear of the screen's right edge from there.
+  Save_Rgba(out, "slqus.bmp", Text_Cell("?", q, 128, 128, 60, 64));
+  Save_Rgba(out, "slcom.bmp", Text_Cell("PRESS START", Style_Label(14, 140), 256, 32, 80, 16));
 }
 
 void Titles(Output& out) {
