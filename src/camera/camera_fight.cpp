@@ -113,7 +113,7 @@ void follow_targets(CameraScene& s) {
   if (Match.intro == -1)
     c.desired_distance = variant == 1 || variant == 2 ? s.separation
                                                       : follow_distance(s.separation);
-  if (FightCamera.throw_mode == 0) {
+  if (c.throw_mode == 0) {
     c.target_x = src_x;
     c.target_z = src_z;
     c.target_y = follow_height(s);
@@ -179,7 +179,7 @@ void approach() {
   if (follows_smoothly()) {
     c.heading_target = Wrap_Angle(359 - c.heading_base);
     SmoothCameraAngles();
-    if (FightCamera.throw_mode == 0) stage_clamp();
+    if (c.throw_mode == 0) stage_clamp();
     return;
   }
   c.pitch = c.pitch_target;  // a set piece cuts straight to its angles

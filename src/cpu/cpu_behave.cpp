@@ -10,6 +10,7 @@
 #include "fight/fight_state.h"
 #include "input/input.h"
 #include "render/render_effect.h"
+#include "render/render_fighter.h"
 #include "settings/settings.h"
 
 namespace {
@@ -50,9 +51,9 @@ void press_dodge(int p, bool down_tap, bool side_tap) {
 
 // ---- what the computer sees ----------------------------------------------------------------
 
-float cpu_separation() { return std::fabs(fighters[0].pos_x - fighters[1].pos_x); }
-float cpu_body_x(int fighter) { return fighters[fighter].pos_x; }
-float cpu_body_height(int fighter) { return fighters[fighter].height; }
+float cpu_separation() { return Spacing.distance; }
+float cpu_body_x(int fighter) { return Draw.Body_Centre[fighter][0]; }
+float cpu_body_height(int fighter) { return body_height(fighter); }
 
 int cpu_ready(int p) { return Cpu.CpuReady[p] >= Cpu.CpuLevel[p]; }
 
@@ -97,9 +98,14 @@ void cpu_press(int p, int button) {
   }
 }
 
+// The fight takes a command's move by the button's pair and the stance the button leaves:
+// in stance 23 the computer presses the other button of the pair, so that the stance it chose
+// stands and the move of that stance is the one taken.
 void cpu_press_cmd(int p, int c, int s, int button) {
-  if (c >= 0) me(p).cmd_code = c;
-  if (s >= 0) me(p).stance = s;
+  Fighter& f = me(p);
+  if (c >= 0) f.cmd_code = c;
+  if (s >= 0) f.stance = s;
+  if (f.cmd_code >= 0 && f.stance == 23 && (button == 1 || button == 3)) ++button;
   cpu_press(p, button);
 }
 

@@ -136,8 +136,9 @@ void CpuAdjustLevel(int p, int strength, int attacker) {
     ++level;
   else if (strength >= 10)
     --level;
+  const std::int32_t floor = std::max(20, base - 30);
   if (level > base) level = base;
-  if (level < base - 30) level = std::max(20, base - 30);
+  if (level < floor) level = floor;
 
   if (fighters[p].action == 219 || fighters[p].action == 229) Cpu.CpuReady[p] = level;
   if (a.in_special && a.hit_height == 1)

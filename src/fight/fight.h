@@ -47,13 +47,16 @@ struct SpacingState {
 extern SpacingState Spacing;
 void move_step();        // once a fight frame
 void update_distance();  // the separation of the two fighters
-void reset_spacing();    // round start: arena centred, no launch in flight
+void reset_spacing();    // round start: the arena centred on the middle, no flight
 // The height of the fighter's body above its standing height (what "passing over" compares).
 float body_height(int fighter);
+// Root motion: while an action is tracked, the model's animation carries the body; when the
+// tracking ends the position takes over the body point's own travel.
 void root_track_begin(int fighter);
 void root_track_end(int fighter);
 void root_sync(int fighter);  // once a frame after the model update: pos_z back to 0
-// A blow that lifts the defender: it flies along the launch arc until it lands.
+// A blow that lifts the defender: it flies along the launch arc, away from the attacker,
+// until it lands.
 void start_launch(int defender, int damage, float launch_speed);
 void stop_launch(int fighter);
 // The movement step's own counters and flights, for saving a fight and putting it back.

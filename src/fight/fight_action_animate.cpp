@@ -1,5 +1,6 @@
 // The animation step: one frame of the running action, its own per-frame behaviour, and the
 // follow-up once it reaches its last frame.
+#include "cpu/cpu.h"
 #include "fight/fight.h"
 #include "fight/fight_action_internal.h"
 #include "render/render_effect.h"
@@ -15,6 +16,9 @@ constexpr float kFloorY = -5.6f;
 bool falling_or_lying(int action) {
   return action == ACT_LYING || action == ACT_LYING_B || is_fall_action(action);
 }
+
+// Standing still raises no dust.
+bool is_standing_idle(int action) { return action == 0 || action == 22 || action == 23; }
 
 // Bigger puffs when a jump lands and a few heavy steps come down.
 bool big_footfall(int action) {
@@ -70,6 +74,11 @@ void ko_hold(int fighter) {
   if (Match.ko_wait > kKoWait) Match.ko_wait = kKoWait;
 }
 
+// Thrown and knocked about: the computer may act again as soon as it is up.
+bool knocked_about(int action) {
+  return in_range(action, 82, 103) || in_range(action, 105, 115) || in_range(action, 119, 129);
+}
+
 void running_action(int fighter) {
   Fighter& f = fighters[fighter];
   if (f.freeze_other && f.frame > f.act_win_first[f.action]) f.freeze_other = 0;
@@ -96,7 +105,7 @@ void footfalls(int fighter) {
     if (in_range(mark, 1, 3)) puff(fighter, 0);
   } else if (f.action == ACT_CROUCH || f.action == ACT_STAND_UP) {
     if (f.frame == last - 2) puff(fighter, 0);
-  } else if (f.frame == last - 15) {
+  } else if (f.frame == last - 15 && !is_standing_idle(f.action)) {
     puff(fighter, big_footfall(f.action) ? 6 : 0);
   }
 }
@@ -126,6 +135,7 @@ void fighter_animate(int fighter) {
   Fighter& f = fighters[fighter];
   if (!in_range(f.action, 0, MAX_ACTIONS - 1)) return;
   guard_stun(f);
+  if (knocked_about(f.action)) CpuReadyAtOnce(fighter);
   const bool lying = f.action == ACT_LYING || f.action == ACT_LYING_B;
   if (lying) get_up(fighter, f.action == ACT_LYING_B);
   else if (f.action < 600 && f.frame >= f.act_last[f.action]) end_action(fighter);

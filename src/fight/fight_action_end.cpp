@@ -1,12 +1,13 @@
 // Where an action goes when it reaches its last frame: the follow-up table, getting up from
 // the floor, and the flags an ending action leaves behind.
+#include "cpu/cpu.h"
 #include "fight/fight.h"
 #include "fight/fight_action_internal.h"
 
 namespace {
 
 enum FollowUp : std::int8_t {
-  FOLLOW_NONE,           // runs on
+  FOLLOW_NONE,           // no rule of its own
   FOLLOW_IDLE,           // the standing idle again
   FOLLOW_RESTART,        // the same action from its first frame
   FOLLOW_HOLD,           // held on its last frame
@@ -236,7 +237,10 @@ void thrown_end(int fighter) {
 void follow(int fighter, FollowUp kind) {
   Fighter& f = fighters[fighter];
   switch (kind) {
-    case FOLLOW_NONE: hold(f, f.act_last[f.action]); break;
+    case FOLLOW_NONE:  // the crouch is left by the input step; nothing else may hang
+      if (f.action == ACT_CROUCH || f.action == ACT_CROUCH_IDLE) hold(f, f.act_last[f.action]);
+      else neutral_end(fighter);
+      break;
     case FOLLOW_IDLE: start_action(fighter, ACT_IDLE, 1); break;
     case FOLLOW_RESTART: f.frame = f.act_first[f.action]; break;
     case FOLLOW_HOLD: hold(f, f.act_last[f.action]); break;
@@ -255,6 +259,7 @@ void follow(int fighter, FollowUp kind) {
     case FOLLOW_LIE: get_up(fighter, false); break;
     case FOLLOW_LIE_B: get_up(fighter, true); break;
     case FOLLOW_RISEN:
+      CpuReadyAfterRising(fighter);
       f.yaw = f.face_yaw;
       neutral_end(fighter);
       break;
@@ -274,6 +279,7 @@ void follow(int fighter, FollowUp kind) {
       break;
     case FOLLOW_THROWN: thrown_end(fighter); break;
     case FOLLOW_DODGED:
+      CpuReadyAtOnce(fighter);
       f.yaw = f.face_yaw;
       to_crouch_idle(fighter);
       break;
@@ -292,7 +298,7 @@ void get_up(int fighter, bool second_way) {
   Fighter& f = fighters[fighter];
   const int lying = second_way ? ACT_LYING_B : ACT_LYING;
   if (Match.ko_state != 0 || Match.frozen) {  // the round is over: stay down
-    if (Match.ko_state == 1 && fighter != Match.winner) Match.ko_wait = 1;  // the wait is over
+    if (Match.ko_state == 1 && fighter != Match.winner) end_ko_wait();  // no need to wait
     if (f.action != lying) {
       f.action = lying;
       f.frame = f.act_first[lying];

@@ -248,10 +248,11 @@ bool command_check(int fighter) {
   }
   if (!special_allowed(fighter)) return false;
   if (command == 3 && command_throw(fighter)) return true;
-  if (command == 6) f.loop_count = button == 1 ? 2 : 4;
-  const int loops = f.loop_count;
   const bool started = try_special(fighter, slot) != 0;
-  if (command == 6 && (button == 1 || button == 2)) f.loop_count = loops;
+  // The rush of command 6 loops fewer times from the 1-2 pair: twice with button 1, four
+  // times with button 2.
+  if (command == 6 && button == 1) f.loop_count = 2;
+  if (command == 6 && button == 2) f.loop_count = 4;
   return started;
 }
 
@@ -325,7 +326,7 @@ bool crouch_check(int fighter) {
 bool throw_escaped(int fighter) {
   const int o = opponent(fighter);
   const PlayerInput& other = Players[o];
-  if (other.attack2_pressed || other.attack4_pressed) return Match.human[o] != 0;
+  if (other.attack2_pressed || other.attack4_pressed) return true;
   if (Match.human[o]) return false;
   const int chance = 2 * Match.stage_count + 5 < 20 ? 2 * Match.stage_count + 5 : 20;
   return chance > (frame_count + fighters[o].life) % 30;
@@ -542,7 +543,13 @@ bool jump_check(int fighter) {
 // ---- 14. end of the step --------------------------------------------------------------------
 void finish_step(int fighter) {
   Fighter& f = fighters[fighter];
-  if (f.action != ACT_RISE && f.action != ACT_RISE_TURNED) f.grab_fwd = f.grab_back = 0;
+  if (f.action == ACT_RISE || f.action == ACT_RISE_TURNED) {  // which way a rising grab reaches
+    const SideKeys k = side_keys(fighter);
+    if (k.forward) f.grab_fwd = 1;
+    if (k.back) f.grab_back = 1;
+  } else {
+    f.grab_fwd = f.grab_back = 0;
+  }
   if (f.step_timer > 0) --f.step_timer;
   else if (f.step_timer < 0) ++f.step_timer;
 }

@@ -298,6 +298,7 @@ void apply_blow(int attacker, int defender, int guard_class, int damage, int by_
     if (try_counter(attacker, defender, by_projectile)) return;
     cpu_learns(attacker, defender, damage);
     if (!by_projectile && try_hit_grab(attacker, defender)) return;
+    if (!d.reacting && !d.busy) a.combo = 0;  // it had recovered: a new combo begins
     d.knock_force = std::max(damage, 5);
     d.queued = 0;
     dealt = scaled_damage(a, d, damage);

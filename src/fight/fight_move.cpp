@@ -18,7 +18,6 @@ constexpr float kStep = 0.2f;          // one step, in units
 constexpr float kArenaRadius = 25.0f;
 constexpr float kKeepApart = 4.0f;     // roots closer than this are pushed apart
 constexpr float kPassingOver = 2.0f;   // a jumper this much higher passes over
-constexpr float kRootBehind = 0.25f;   // the body point sits this far behind the position
 constexpr int kTurnDelay = 4;          // frames facing the wrong way before turning
 constexpr int kLookEntries = 25;
 constexpr int kLookEntriesCrouching = 15;
@@ -28,6 +27,10 @@ constexpr int kLookStep = 2;           // degrees a frame the head turns
 struct MoveState {
   std::int32_t wrong_way[2];  // frames spent facing away from the opponent
   std::int32_t ended_at[2];   // frame_count when root tracking last ended
+  // Root tracking takes its body point from the first drawing of the tracked action.
+  std::int32_t capture[2];    // 1 until it has
+  std::int32_t began_at[2];   // frame_count when the tracking began
+  float drawn_x[2], drawn_z[2];  // the positions the next drawing shows
 };
 MoveState Move;
 
@@ -359,12 +362,20 @@ void update_distance() {
 
 float body_height(int fighter) { return fighters[fighter].height; }
 
-void move_step() {
-  root_sync(0);
-  root_sync(1);
-  look_step(0);
-  look_step(1);
-  if (Match.frozen) return;
+namespace {
+
+// The tracked action has been drawn since it began: where its body point stands against the
+// position is what the tracking measures its travel from.
+void capture_start(int fighter) {
+  Fighter& f = fighters[fighter];
+  if (!Move.capture[fighter] || Move.began_at[fighter] == frame_count) return;
+  f.track_root0 = body_x(fighter);
+  f.track_x0 = Move.drawn_x[fighter];
+  f.track_z0 = Move.drawn_z[fighter];
+  Move.capture[fighter] = 0;
+}
+
+void spacing_step() {
   update_distance();
   arena_edge(0);
   arena_edge(1);
@@ -372,28 +383,50 @@ void move_step() {
   update_facing();
 }
 
+}  // namespace
+
+void move_step() {
+  for (int i = 0; i < 2; ++i) {
+    capture_start(i);
+    root_sync(i);
+    look_step(i);
+  }
+  if (!Match.frozen) spacing_step();
+  for (int i = 0; i < 2; ++i) {
+    Move.drawn_x[i] = fighters[i].pos_x;
+    Move.drawn_z[i] = fighters[i].pos_z;
+  }
+}
+
 void reset_spacing() {
   Spacing = SpacingState{};
   Move = MoveState{};
   Launches[0] = Launches[1] = Launch{};
+  for (int i = 0; i < 2; ++i) {
+    Move.drawn_x[i] = fighters[i].pos_x;
+    Move.drawn_z[i] = fighters[i].pos_z;
+  }
   update_distance();
 }
 
 void root_track_begin(int fighter) {
   Fighter& f = fighters[fighter];
   if (f.root_track) return;
-  f.track_root0 = body_x(fighter);
+  f.track_root0 = body_x(fighter);  // until the action's own first drawing is seen
   f.track_x0 = f.pos_x;
   f.track_z0 = f.pos_z;
   f.root_track = 1;
+  Move.capture[fighter] = 1;
+  Move.began_at[fighter] = frame_count;
 }
 
+// The position follows the body point's own travel since the tracking began: wherever the
+// hips sit on a character's model, a motion that carries nothing leaves the position alone.
 void root_track_end(int fighter) {
   Fighter& f = fighters[fighter];
-  const bool side_b = fighter == Match.side_b;
-  const bool facing = !faces_away(f);
-  const bool behind_is_minus = (side_b && facing) || (!side_b && !facing);
-  f.pos_x = body_x(fighter) + (behind_is_minus ? -kRootBehind : kRootBehind);
+  if (!f.root_track) return;
+  if (!Move.capture[fighter]) f.pos_x = body_x(fighter) - (f.track_root0 - f.track_x0);
+  Move.capture[fighter] = 0;
   f.root_track = 0;
   f.root_sync = 1;
   Move.ended_at[fighter] = frame_count;
@@ -401,10 +434,11 @@ void root_track_end(int fighter) {
 
 void root_sync(int fighter) {
   Fighter& f = fighters[fighter];
-  // The body point must come from a model drawn since the tracking ended.
+  // After the next drawing, the new action's own whole-body offset is taken back out of the
+  // position, so the body stays where the tracked motion left it.
   if (f.root_sync != 0 && !(f.root_sync == 1 && Move.ended_at[fighter] == frame_count)) {
-    const float forward = f.frame_offset[f.frame][2] * facing_sign(f.face_yaw);
-    f.pos_x += (faces_away(f) && f.root_sync == 1) ? -forward : forward;
+    const float back = -f.frame_offset[f.frame][2] * facing_sign(f.face_yaw);
+    f.pos_x += (faces_away(f) && f.root_sync == 1) ? -back : back;
     f.root_sync = 0;
   }
   f.pos_z = 0.0f;

@@ -101,6 +101,10 @@ void Clear_Projectiles();
 // Starts the glow ring around (x, y, z) in the given colour.
 void Start_GlowRing(float x, float y, float z, int colour);
 
+// The projectiles' flight of one frame without drawing them, for a fight stepped without
+// drawing (the effect pass flies them otherwise).
+void Fly_Projectiles();
+
 // ---- the pass (the fight frame) ------------------------------------------------------------
 // Once per drawn fight frame, after the fighters (not while the win pose runs).
 void Draw_Effects();

@@ -172,8 +172,12 @@ void fly(ProjectileSlot& p) {
   p.z += p.vz;
 }
 
+bool projectiles_frozen() {
+  return Match.hit_stop > 0 || fighters[0].freeze_other || fighters[1].freeze_other;
+}
+
 void run_projectiles() {
-  const bool frozen = Match.hit_stop > 0 || fighters[0].freeze_other || fighters[1].freeze_other;
+  const bool frozen = projectiles_frozen();
   for (ProjectileSlot& p : Effects.Projectile) {
     if (!p.active) continue;
     draw_projectile(p);
@@ -278,4 +282,10 @@ void Run_GlowRing() {
   if (fighters[0].super_mode || fighters[1].super_mode) Draw_GlowRing(g);
   g.counter += 1;
   if (g.counter >= GLOW_RING_FRAMES) g.running = 0;
+}
+
+void Fly_Projectiles() {
+  if (projectiles_frozen()) return;
+  for (ProjectileSlot& p : Effects.Projectile)
+    if (p.active) fly(p);
 }

@@ -75,6 +75,9 @@ void Load_SmallFloor(const char* name);  // one 12 x 12 square, for a front-end 
 
 // Drawing. Every pass needs Set_View first (Draw_Stage calls it).
 void Draw_Stage();
+// The super move's flash, one frame: the stage darkens by 15 a frame, stays dark three frames
+// and brightens by 10 a frame (Draw_Stage runs it; a fight stepped without drawing calls it).
+void Step_SuperFlash();
 void Draw_Floor();
 void Draw_LightPool();
 void Draw_Backdrop();

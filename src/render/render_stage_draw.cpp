@@ -37,26 +37,6 @@ void draw_mesh(const StageMesh& mesh, ScreenVertex* sv, float dx, float dz) {
   glEnd();
 }
 
-// The super-move flash: darkening by 15 a frame, three dark frames, brightening by 10.
-void step_flash() {
-  std::int32_t& state = Match.flash_state;
-  std::int32_t& light = Match.light;
-  if (state == 1) {
-    if (light > 10) light -= 15;
-    if (light < 11) {
-      light = 0;
-      state = kFlashDarkFrom;
-    }
-  } else if (state >= kFlashDarkFrom && state < kFlashDarkTo) {
-    if (++state == kFlashDarkTo) state = -1;
-  } else if (state == -1) {
-    if (light < kFullLight) light += 10;
-    if (light > kFullLight) {
-      light = kFullLight;
-      state = 0;
-    }
-  }
-}
 
 void draw_arena() {
   Set_DrawMode(200);
@@ -119,7 +99,7 @@ void Draw_SmallFloor() {
 
 void Draw_Stage() {
   Set_View();
-  step_flash();
+  Step_SuperFlash();
   // The floor and backdrop go in at the layer behind everything nearer than 100 units.
   const float layer = SpriteDraw.Layer_Z;
   SpriteDraw.Layer_Z = STAGE_LAYER_Z;
@@ -141,4 +121,25 @@ void Draw_Stage() {
   }
   SpriteDraw.Layer_Z = layer;
   Run_GlowRing();
+}
+
+// The super-move flash: darkening by 15 a frame, three dark frames, brightening by 10.
+void Step_SuperFlash() {
+  std::int32_t& state = Match.flash_state;
+  std::int32_t& light = Match.light;
+  if (state == 1) {
+    if (light > 10) light -= 15;
+    if (light < 11) {
+      light = 0;
+      state = kFlashDarkFrom;
+    }
+  } else if (state >= kFlashDarkFrom && state < kFlashDarkTo) {
+    if (++state == kFlashDarkTo) state = -1;
+  } else if (state == -1) {
+    if (light < kFullLight) light += 10;
+    if (light > kFullLight) {
+      light = kFullLight;
+      state = 0;
+    }
+  }
 }

@@ -10,14 +10,18 @@
 
 #include "assets/asset_anim.h"
 #include "assets/asset_character.h"
+#include "assets/asset_image.h"
 #include "cpu/cpu.h"
 #include "fight/fight.h"
 #include "fight/fight_moves.h"
 #include "fight/fight_state.h"
+#include "hud/hud.h"
 #include "platform/headless/headless.h"
 #include "platform/platform.h"
 #include "render/render_fighter.h"
+#include "render/render_effect.h"
 #include "render/render_math.h"
+#include "render/render_stage.h"
 #include "render/render_view.h"
 #include "shell/shell.h"
 
@@ -58,6 +62,7 @@ bool load_pair(int c0, int c1) {
   Match.human[0] = Match.human[1] = 0;
   Match.demo = 0;
   Match.stage_count = 0;
+  Reset_Textures();  // each pairing loads its two fighters' skins afresh
   reset_match_fighters();
   return Load_Character(0) && Load_Character(1);
 }
@@ -72,7 +77,8 @@ void start_round(int level) {
   for (int i = 0; i < 2; ++i) Cpu.CpuLevel[i] = Cpu.CpuBaseLevel[i] = level;
 }
 
-// One undrawn fight frame.
+// One fight frame with the pictures left out: poses and part boxes, what the drawing pass
+// moves on (the super flash, the bars, the projectiles' flight, the clock), then the update.
 void step() {
   if (++frame_count == 30000) frame_count = 0;
   Pose_Fighter(0);
@@ -80,10 +86,13 @@ void step() {
   Set_View();
   Place_FighterOnly(0);
   Place_FighterOnly(1);
-  Fight_Update();
+  Step_SuperFlash();
+  DrainGauges();
+  Fly_Projectiles();
   const int a0 = fighters[0].action, a1 = fighters[1].action;
   const bool posing = a0 == 12 || a0 == 13 || a1 == 12 || a1 == 13;
   if (Match.after_ko == 0 && Match.ko_state == 0 && !posing) update_clock();
+  Fight_Update();
 }
 
 RoundEnd round_end() {

@@ -7,6 +7,7 @@
 #include "assets/asset_anim.h"
 #include "audio/audio.h"
 #include "camera/camera_path.h"
+#include "fight/fight_moves.h"
 #include "fight/fight_ranking.h"
 #include "fight/fight_state.h"
 #include "input/input.h"
@@ -58,6 +59,7 @@ void Set_FixedGLState() {
 }
 
 int Game_Main() {
+  build_move_tables();  // the fight's command and link tables
   Build_SinCosTables();
   Set_FrameRate(65);
 

@@ -6,9 +6,11 @@
 #include "cpu/cpu.h"
 #include "cpu/cpu_private.h"
 #include "fight/fight.h"
+#include "fight/fight_moves.h"
 #include "fight/fight_state.h"
 #include "input/input.h"
 #include "render/render_effect.h"
+#include "render/render_fighter.h"
 #include "settings/settings.h"
 
 namespace test {
@@ -57,8 +59,8 @@ class CpuFixture : public ::testing::Test {
 
   // The two fighters `sep` apart about the middle, fighter 0 on the left.
   static void place(float sep) {
-    fighters[0].pos_x = -sep / 2;
-    fighters[1].pos_x = sep / 2;
+    fighters[0].pos_x = Draw.Body_Centre[0][0] = -sep / 2;
+    fighters[1].pos_x = Draw.Body_Centre[1][0] = sep / 2;
     update_distance();
   }
   // The computer's frame value with the gauge and clock as set: fighter 1's range.
@@ -76,6 +78,11 @@ class CpuFixture : public ::testing::Test {
   // Back and forward of the computer on the right-hand side.
   static int holds_back() { return Players[1].right; }
   static int holds_forward() { return Players[1].left; }
+  // The button the computer presses for a move of the 1-2 or 3-4 pair in a stance: in stance
+  // 23 the second of the pair.
+  static int pair_button(int button, int stance) {
+    return stance == 23 && (button == 1 || button == 3) ? button + 1 : button;
+  }
   static int pressed(int b) {
     const PlayerInput& in = Players[1];
     const int flags[] = {0, in.attack1_pressed, in.attack2_pressed, in.attack3_pressed,

@@ -30,6 +30,7 @@ TEST_F(CpuRoutineTest, FarAwayItChargesAgainstAPlayerAndWalksInOtherwise) {
   place(30.0f);
   fighters[1].gauge = 200;  // full enough: stands
   Match.clock_left = 1600;
+  frame_count = 50;  // 1555 + 50 + 200 = 1805: mod 100 is 5
   CpuThink(1, 0);
   EXPECT_EQ(fighters[1].action, 22);
 
@@ -149,7 +150,7 @@ TEST_F(CpuRoutineTest, EachCharacterJugglesWithItsRoutinesMove) {
     CpuThink(1, c);
     EXPECT_EQ(fighters[1].cmd_code, expected[c].cmd) << "character " << c;
     EXPECT_EQ(fighters[1].stance, expected[c].stance) << "character " << c;
-    EXPECT_EQ(pressed(expected[c].button), 1) << "character " << c;
+    EXPECT_EQ(pressed(pair_button(expected[c].button, expected[c].stance)), 1) << c;
   }
   // Routine 1 meets a forward jump only beyond 10 except on the last stage.
   SetUp();
@@ -205,7 +206,7 @@ TEST_F(CpuRoutineTest, InsideASpecialItLinksTheFollowUpItHasGaugeFor) {
   CpuThink(1, 0);
   EXPECT_EQ(f.cmd_code, 1);
   EXPECT_EQ(f.stance, 23);
-  EXPECT_EQ(pressed(1), 1);
+  EXPECT_EQ(pressed(2), 1);  // the fight reads slot 4: command 1 with the pair's second button
 
   // Without a full bar the super slot reads as nothing and no follow-up is chosen.
   SetUp();

@@ -32,7 +32,8 @@ TEST_F(CpuThinkTest, NothingIsDoneOnceTheRoundIsOver) {
   EXPECT_EQ(Cpu.CpuReady[1], 0);
 }
 
-// Routine 1 answers a plain strike from 13 to 16 with command 3, stance 23, button 1.
+// Routine 1 answers a plain strike from 13 to 16 with command 3, stance 23, button 1 (which
+// it presses as button 2, the stance-23 button of the pair).
 TEST_F(CpuThinkTest, TheFourthIdenticalCommandInARowIsHeldBack) {
   place(14.0f);
   fighters[0].action = 180;
@@ -42,7 +43,7 @@ TEST_F(CpuThinkTest, TheFourthIdenticalCommandInARowIsHeldBack) {
     CpuThink(1, 0);
     EXPECT_EQ(fighters[1].cmd_code, 3) << i;
     EXPECT_EQ(fighters[1].stance, 23) << i;
-    EXPECT_EQ(pressed(1), i < 3 ? 1 : 0) << "press " << i + 1;
+    EXPECT_EQ(pressed(2), i < 3 ? 1 : 0) << "press " << i + 1;
     EXPECT_EQ(holds_back(), 1) << i;  // still guarding
   }
 }
@@ -50,6 +51,7 @@ TEST_F(CpuThinkTest, TheFourthIdenticalCommandInARowIsHeldBack) {
 TEST_F(CpuThinkTest, AtLowLifeNoSpecialMoveStartsAgainstAnIdleOpponent) {
   // Routine 1 at 10 to 13 in stance 0 with k5 = 3: command 3, button 1.
   for (const float sep : {11.0f, 12.0f}) {
+    SetUp();
     place(sep);
     make_ready(1);
     set_k(1, 5, 3);
@@ -186,8 +188,8 @@ TEST_F(CpuThinkTest, AnInterruptedCommandIsAvoidedAfterwards) {
     CpuMind.cmd_memory[1][0] = CPU_EMPTY;  // keep the repeat guard out of it
     CpuThink(1, 0);
     const int r = random_of(1) % 10;
-    EXPECT_EQ(pressed(1), r < 2 ? 1 : 0) << r;
-    (pressed(1) ? kept : released)++;
+    EXPECT_EQ(pressed(2), r < 2 ? 1 : 0) << r;
+    (pressed(2) ? kept : released)++;
   }
   EXPECT_EQ(released, 8);
   EXPECT_EQ(kept, 2);

@@ -199,6 +199,37 @@ TEST_F(ActionTest, GaugeChargeLoopsWhileHeldAndFillsEveryThirdFrame) {
   hold_key(kKeys[0].b1, false);
 }
 
+TEST_F(ActionTest, SupersNeedAHundredUsablePointsSpecialsDoNot) {
+  Fighter& f = fighters[0];  // character 0: super slot 1 is 221, special slot 13 is 220
+  auto attempt = [&](int command, bool extra, int spend = 0) {
+    start_action(0, 0, 1);
+    f.in_special = f.super_mode = f.freeze_other = 0;
+    f.gauge_spend = spend;
+    Match.flash_state = 0;
+    Players[0] = PlayerInput{};
+    f.cmd_code = command;
+    if (extra) Players[0].extra1_pressed = 1;
+    else Players[0].attack1_pressed = 1;
+    fighter_input(0);
+    return f.action;
+  };
+  f.gauge = 99;
+  EXPECT_NE(attempt(0, false), 221);
+  EXPECT_EQ(f.gauge_spend, 0);
+  EXPECT_EQ(attempt(3, false), 220);  // the special goes out all the same
+  EXPECT_NE(attempt(3, true), 221);
+  f.gauge = 100;
+  EXPECT_EQ(attempt(0, false), 221);
+  EXPECT_EQ(f.gauge_spend, 100);
+  EXPECT_EQ(f.super_mode + f.freeze_other + f.in_special, 3);
+  EXPECT_EQ(Match.flash_state, 1);
+  EXPECT_EQ(attempt(3, true), 221);  // the extra button during command 3: super command 0
+  f.gauge = 150;  // what is still to be drained does not count
+  EXPECT_EQ(attempt(1, false, 40), 191);
+  EXPECT_NE(attempt(1, false, 60), 191);
+  Match.flash_state = 0;
+}
+
 TEST_F(ActionTest, ThrowsAndEscapes) {
   fighters[0].pos_x = -2.2f;
   fighters[1].pos_x = 2.2f;
@@ -244,6 +275,30 @@ TEST_F(ActionTest, KnockedDownFighterGetsUpOnceLanded) {
   EXPECT_EQ(frames_until(0, 22, 20), 11);  // up, and back to idle
   step();
   EXPECT_EQ(f.rise_flag, 0);
+}
+
+TEST_F(ActionTest, BeatenFighterStaysDownAndEndsTheWait) {
+  Fighter& f = fighters[0];
+  start_action(0, 82, 1);
+  f.busy = f.reacting = 1;
+  f.life = 0;
+  Match.ko_state = 1;
+  Match.winner = 1;
+  Match.ko_wait = 500;
+  steps(8);
+  EXPECT_EQ(Match.ko_wait, 70);  // a fallen fighter cuts the wait short
+  steps(40);
+  EXPECT_EQ(f.action, 82);  // held two frames before the end of its fall
+  EXPECT_EQ(f.frame, f.act_last[82] - 2);
+  EXPECT_EQ(Match.ko_state, 1);
+
+  f.frame = f.act_last[82];  // a fall that does reach its end: down for good, wait over
+  step();
+  EXPECT_EQ(f.action, 50);
+  EXPECT_EQ(Match.ko_state, 2);
+  EXPECT_EQ(Match.after_ko, 1);
+  steps(5);
+  EXPECT_EQ(f.action, 50);
 }
 
 TEST_F(ActionTest, FighterFacingAwayTurnsAfterFourFrames) {

@@ -98,10 +98,16 @@ TEST_F(Blow, ComboDamageScalesFromTheFourthHit) {
     SCOPED_TRACE(c.combo_before);
     SetUp();
     fighters[0].combo = c.combo_before;
+    fighters[1].reacting = 1;  // still reeling from the combo's last blow
     apply_blow(0, 1, 1, c.damage, 0);
     EXPECT_EQ(fighters[1].damage, c.dealt);
     EXPECT_EQ(fighters[0].combo, c.combo_before + 1);
   }
+  SetUp();  // a fighter that has recovered takes a first hit again
+  fighters[0].combo = 6;
+  apply_blow(0, 1, 1, 12, 0);
+  EXPECT_EQ(fighters[1].damage, 12);
+  EXPECT_EQ(fighters[0].combo, 1);
 }
 
 TEST_F(Blow, StandingGuardHoldsMidAndHighCrouchingGuardHoldsMidAndLow) {

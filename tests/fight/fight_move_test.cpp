@@ -120,14 +120,14 @@ TEST_F(MoveTest, RootSynchronisationKeepsTheFightersOnOneLine) {
   f.pos_z = 0.7f;
   step();
   EXPECT_EQ(f.pos_z, 0.0f);
-  // Ending tracked root motion puts the position a quarter unit ahead of the body point
-  // for the left fighter facing its opponent, behind it for the right one.
-  Draw.Body_Centre[0][0] = -1.0f;
-  Draw.Body_Centre[1][0] = 3.0f;
+  // Ending tracked root motion moves the position as far as the body point travelled.
+  steps(3);  // the idle's tracking has begun and seen its first drawing
+  Draw.Body_Centre[0][0] += 4.0f;
+  Draw.Body_Centre[1][0] -= 2.0f;
   root_track_end(0);
   root_track_end(1);
-  EXPECT_FLOAT_EQ(f.pos_x, -0.75f);
-  EXPECT_FLOAT_EQ(fighters[1].pos_x, 2.75f);
+  EXPECT_FLOAT_EQ(f.pos_x, -1.0f);
+  EXPECT_FLOAT_EQ(fighters[1].pos_x, 3.0f);
   EXPECT_EQ(f.root_sync, 1);
   root_sync(0);  // not before the model has been drawn again
   EXPECT_EQ(f.root_sync, 1);
@@ -135,18 +135,21 @@ TEST_F(MoveTest, RootSynchronisationKeepsTheFightersOnOneLine) {
   f.frame_offset[f.frame][2] = 0.5f;
   root_sync(0);
   EXPECT_EQ(f.root_sync, 0);
-  EXPECT_FLOAT_EQ(f.pos_x, -0.25f);
+  EXPECT_FLOAT_EQ(f.pos_x, -1.5f);  // the new frame's own offset taken back out
 }
 
 TEST_F(MoveTest, DashCarriesTheBodyAndEndsWhereTheBodyIs) {
   Fighter& f = fighters[0];
+  const float x0 = f.pos_x;
   start_action(0, 3, 1);
-  for (int k = 0; k < 11; ++k) {
+  step();
+  move_step();  // the dash's first drawing gives the body point its travel is taken from
+  for (int k = 0; k < 10; ++k) {
     fighter_animate(0);
     Draw.Body_Centre[0][0] += 0.5f;  // the animation carries the body forward
   }
   fighter_animate(0);  // the dash ends: the position joins the body
-  EXPECT_NEAR(f.pos_x, Draw.Body_Centre[0][0] + 0.25f, 1e-4f);
+  EXPECT_NEAR(f.pos_x, x0 + 5.0f, 1e-4f);
   EXPECT_EQ(f.action, 22);
 }
 

@@ -13,6 +13,7 @@
 #include "assets/asset_model.h"
 #include "fight/fight.h"
 #include "fight/fight_state.h"
+#include "input/input.h"
 #include "platform/headless/headless.h"
 #include "platform/platform.h"
 #include "render/render_fighter.h"
@@ -35,6 +36,7 @@ inline bool load_fight(const char* data_dir, int c0, int c1) {
     Build_SinCosTables();
     if (!Load_PreloadFA("PRELOAD.FA")) return false;
     Build_AngleTables();
+    Input_Init();
     opened = 1;
   }
   Shell.GameMode = MODE_FIGHT;
