@@ -156,6 +156,17 @@ int heavy_reaction(int defender, int guard_class, int damage, float launch, int 
   return guard_class == 2 ? 171 : 166;
 }
 
+// The side a banner names: 1 for the fighter on the left, 2 for the one on the right.
+std::int32_t banner_side(int fighter) { return fighter == Match.side_a ? 1 : 2; }
+
+// A reversal (a counter, or a blow that catches the opponent's strike) is announced unless
+// one is already showing.
+void announce_reversal(int fighter) {
+  if (Match.reversal != 0) return;
+  Match.reversal = banner_side(fighter);
+  Match.reversal_frame = 0;
+}
+
 // A special move that turns into a hold; true when it took hold.
 bool try_hit_grab(int attacker, int defender) {
   Fighter& a = fighters[attacker];
@@ -189,14 +200,18 @@ bool try_counter(int attacker, int defender, int by_projectile) {
   if (a.super_mode || a.reacting || a.frame_part[a.frame] > 16) return false;
   start_action(defender, kCounterMove, 1);
   set_reaction(attacker, kCountered);
+  announce_reversal(defender);
   return true;
 }
 
 // Damage of an unguarded blow after counters and scaling.
-int scaled_damage(Fighter& a, Fighter& d, int damage) {
+int scaled_damage(int attacker, int defender, int damage) {
+  Fighter& a = fighters[attacker];
+  Fighter& d = fighters[defender];
   if (d.hit_new == 1 && !a.super_mode) {  // caught with its own strike out
     damage += d.hit_power / 3;
     d.hit_new = 0;
+    announce_reversal(attacker);
   }
   if (a.super_mode) {
     if (a.action == 331) return damage / 2;
@@ -301,12 +316,16 @@ void apply_blow(int attacker, int defender, int guard_class, int damage, int by_
     if (!d.reacting && !d.busy) a.combo = 0;  // it had recovered: a new combo begins
     d.knock_force = std::max(damage, 5);
     d.queued = 0;
-    dealt = scaled_damage(a, d, damage);
+    dealt = scaled_damage(attacker, defender, damage);
     d.damage += dealt;
     d.gauge_gain = 2 * d.damage;
     a.gauge_gain = d.damage;
     if (d.drain_delay == 0) d.drain_delay = 7;
     count_combo(a);
+    if (Match.first_strike == 0) {  // the round's first blow
+      Match.first_strike = banner_side(attacker);
+      Match.first_strike_frame = 0;
+    }
     if (reaction < 0) {
       reaction = plain_reaction(a, d, guard_class, damage);
       reaction = heavy_reaction(defender, guard_class, dealt, a.launch_speed, reaction);

@@ -117,7 +117,7 @@ void fighters_step() {
 }
 
 void deciding_blow() {
-  if (Match.ko_state != 0) return;
+  if (Match.ko_state != 0 || Match.time_over) return;  // after the time-over call the bars decide
   int beaten = -1;
   for (int i = 0; i < 2 && beaten < 0; ++i)
     if (fighters[i].life <= fighters[i].damage) beaten = i;
