@@ -43,8 +43,8 @@ float lift_for(float desired) {
   return desired > 15.0f ? (desired - 15.0f) / 2.6f : 0.0f;
 }
 
-// The shot falls back to the plain side view: one of the two shot numbers becomes 1 and the
-// other is left at 0.
+// The shot falls back toward the plain side view: the angles head for level and the side, and
+// a shot number becomes 1 (fighter 1's when fighter 0 has none).
 void fall_back_to_side_shot() {
   FightCameraState& c = FightCamera;
   c.pitch_target = 0;
