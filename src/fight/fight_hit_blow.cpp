@@ -223,6 +223,10 @@ int scaled_damage(int attacker, int defender, int damage) {
 }
 
 void count_combo(Fighter& a) {
+  if (Match.first_strike == 0) {  // the display's first-strike banner, once a round
+    Match.first_strike = &a == &fighters[0] ? 1 : 2;
+    Match.first_strike_frame = 0;
+  }
   ++a.combo;
   if (a.combo_show < 21)
     a.combo_show = 30;
