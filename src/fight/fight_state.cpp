@@ -104,9 +104,9 @@ void reset_round() {
   Match.side_b = 1;
   Match.time_rank = 0;
   Match.reverse[0] = Match.reverse[1] = 0;
+  CpuRoundStart();
   Match.first_strike = Match.first_strike_frame = 0;
   Match.reversal = Match.reversal_frame = 0;
-  CpuRoundStart();
   Clear_Projectiles();  // body-part effects went with each fighter's reset
   reset_spacing();
   Shell.SkipPresent = 1;  // the round's first picture is drawn but not shown

@@ -62,7 +62,12 @@ struct ScriptRange {
   std::int32_t first, last;
 };
 constexpr ScriptRange kFighter0Shown[] = {
-    {0, 199}, {452, 569}, {723, 795}, {855, 1027}, {1152, 1280}};
+    {0, 199},      // the first bout
+    {452, 569},    // after the flurry
+    {723, 795},    // the exchange
+    {855, 1027},   // the long chase
+    {1152, 1280},  // the finish
+};
 
 // The flurry of blows: a sound every ten script frames.
 constexpr ScriptRange kFlurry = {325, 450};
