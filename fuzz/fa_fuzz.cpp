@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static const char* const kNames[4] = {"f.fa", "f.fa3", "f.fx", "f.fx3"};
   const char* name = kNames[data[0] & 3];
   const bool shared = (data[0] & 4) != 0;
-  fuzz::write_file(name, data + 1, size - 1);
+  fuzz::set_file(name, data + 1, size - 1);
   fuzz::run_reader([&] {
     const bool ok = shared ? Load_PreloadFA(name) : Load_FA(name, "none.bsc", 0);
     if (!ok) return;

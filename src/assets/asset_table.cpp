@@ -8,6 +8,7 @@
 #include <cstdio>
 
 #include "assets/asset_le.h"
+#include "assets/asset_report.h"
 #include "fight/fight_state.h"
 #include "platform/platform.h"
 
@@ -20,28 +21,34 @@ constexpr int kStagingBytes = kHeadBytes + MAX_FRAMES * kFrameBytes;
 std::uint8_t Staging[kStagingBytes];
 
 // Stages `name`: its head, and its frames once `room` (frames the file may fill) is known to
-// hold them. Returns the frame count N + 1, or -1 when refused (message printed), or -2 when
-// the file cannot be opened.
-int stage_table(const char* name, const char* who, int room) {
+// hold them. Returns the frame count N + 1, or -1 when refused or not opened (the reason
+// recorded).
+int stage_table(const char* name, int room) {
   std::FILE* file = Plat_OpenFile(name, "rb");
-  if (file == nullptr) return -2;
-  if (std::fread(Staging, 1, kHeadBytes, file) != kHeadBytes) {
+  if (file == nullptr) {
+    Load_NotOpened(name);
+    return -1;
+  }
+  const std::size_t head = std::fread(Staging, 1, kHeadBytes, file);
+  if (head != kHeadBytes) {
     std::fclose(file);
-    std::printf("%s ERROR(%s): the file is short\n", who, name);
+    Load_Refused(name, "too short: %zu bytes, less than the %d-byte action ranges and count",
+                 head, kHeadBytes);
     return -1;
   }
   const int frames = le::i16(Staging + 2 * kRangeBytes) + 1;
   if (frames < 0 || frames > room) {
     std::fclose(file);
-    std::printf("%s ERROR(%s): %d frames do not fit the %d frames left of %d\n", who, name,
-                frames, room < 0 ? 0 : room, MAX_FRAMES);
+    Load_Refused(name, "%d frames are past the capacity: %d of the %d frames are left", frames,
+                 room < 0 ? 0 : room, MAX_FRAMES);
     return -1;
   }
   const std::size_t need = static_cast<std::size_t>(frames) * kFrameBytes;
   const std::size_t got = std::fread(Staging + kHeadBytes, 1, need, file);
   std::fclose(file);
   if (got != need) {
-    std::printf("%s ERROR(%s): the file is short\n", who, name);
+    Load_Refused(name, "too short: %zu of the %zu frame bytes its %d frames need", got, need,
+                 frames);
     return -1;
   }
   return frames;
@@ -74,8 +81,8 @@ bool shared_ranges_valid(const char* name) {
       for (int end = 0; end < 2; ++end) {
         const int v = range_value(section, i, end);
         if (v < 0 || v >= MAX_FRAMES) {
-          std::printf("Load_PreloadTBL ERROR(%s): action %d has frame %d outside 0..%d\n",
-                      name, i, v, MAX_FRAMES - 1);
+          Load_Refused(name, "damaged: action %d has frame %d, outside 0 to %d", i, v,
+                       MAX_FRAMES - 1);
           return false;
         }
       }
@@ -86,7 +93,7 @@ bool shared_ranges_valid(const char* name) {
 
 bool Load_PreloadTBL(const char* name, int player) {
   if (player < 0 || player > 1) return false;
-  const int frames = stage_table(name, "Load_PreloadTBL", MAX_FRAMES);
+  const int frames = stage_table(name, MAX_FRAMES);
   if (frames < 0 || !shared_ranges_valid(name)) return false;
   Fighter& f = fighters[player];
   for (int i = 0; i < TABLE_ACTIONS; ++i) {
@@ -104,7 +111,7 @@ bool Load_TBL(const char* name, int player) {
   if (player < 0 || player > 1) return false;
   Fighter& f = fighters[player];
   const int base = f.last_shared_frame + 1;  // S + 1
-  const int frames = stage_table(name, "Load_TBL", MAX_FRAMES - base);
+  const int frames = stage_table(name, MAX_FRAMES - base);
   if (frames < 0) return false;
   std::int32_t* firsts[2] = {f.act_first, f.act_win_first};
   std::int32_t* lasts[2] = {f.act_last, f.act_win_last};

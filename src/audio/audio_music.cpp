@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "audio/audio.h"
+#include "platform/platform.h"
 #include "platform/platform_audio.h"
 #include "settings/settings.h"
 
@@ -24,12 +25,23 @@ bool sound_on() { return Settings.sound == 1; }
 }  // namespace
 
 void Cd_Open() {
-  if (!Plat_MusicOpen()) return;
+  if (!Plat_MusicOpen()) {
+    Plat_DebugOut("valdrune: no music player; the game runs without music");
+    return;
+  }
   CdPlayer.open = 1;
   for (std::int32_t track = TRACK_FIRST_STAGE; track <= TRACK_LAST; ++track) {
     char name[32];
     std::snprintf(name, sizeof name, "music/track%02d.ogg", static_cast<int>(track));
-    Plat_MusicLoadTrack(track, name);  // a missing file leaves that track silent
+    // A missing file leaves that track silent; a file the player cannot play says so itself.
+    std::FILE* file = Plat_OpenFile(name, "rb");
+    if (file == nullptr) {
+      Plat_DebugOutf("valdrune: %s: %s; track %d stays silent", name, Plat_OpenFailure(),
+                     static_cast<int>(track));
+      continue;
+    }
+    std::fclose(file);
+    Plat_MusicLoadTrack(track, name);
   }
 }
 

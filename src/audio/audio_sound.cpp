@@ -1,10 +1,13 @@
 // Sound effects: one buffer per sound number, the fight's per-frame queue, and the rules of
 // who may be heard when.
 #include <cstdio>
+#include <cstring>
 
 #include "audio/audio.h"
+#include "assets/asset_report.h"
 #include "audio/audio_wave.h"
 #include "fight/fight_state.h"
+#include "platform/platform.h"
 #include "platform/platform_audio.h"
 #include "settings/settings.h"
 
@@ -36,15 +39,54 @@ void sound_file_name(int sound, char* out, std::size_t size) {
   std::snprintf(out, size, sound < 100 ? "%02d.wav" : "%d.wav", sound);
 }
 
-// Loads one sound into its buffer; a failure leaves it empty.
+// Missing sound files, reported a run of consecutive numbers at a time (a data set without
+// its sounds would otherwise take 178 lines). Written by load_sound and report_missing.
+struct MissingRun {
+  int first = -1;
+  int last = -1;
+};
+MissingRun Missing;
+
+void report_missing() {
+  if (Missing.first < 0) return;
+  char first[12], last[12];
+  sound_file_name(Missing.first, first, sizeof first);
+  sound_file_name(Missing.last, last, sizeof last);
+  if (Missing.first == Missing.last)
+    Plat_DebugOutf("valdrune: %s: missing; sound %d stays silent", first, Missing.first);
+  else
+    Plat_DebugOutf("valdrune: %s to %s: missing; sounds %d to %d stay silent", first, last,
+                   Missing.first, Missing.last);
+  Missing = MissingRun{};
+}
+
+void note_missing(int sound) {
+  if (Missing.first >= 0 && Missing.last + 1 != sound) report_missing();
+  if (Missing.first < 0) Missing.first = sound;
+  Missing.last = sound;
+}
+
+// Loads one sound into its buffer; a failure leaves it empty and silent.
 void load_sound(int sound) {
   SoundEffect& e = SoundTable.effects[sound];
   sound_file_name(sound, e.file_name, sizeof e.file_name);
   WaveInfo wave;
-  if (!Wave_Load(e.file_name, &wave)) return;
+  if (!Wave_Load(e.file_name, &wave)) {
+    if (std::strcmp(Report_Reason(), "missing") == 0) {
+      note_missing(sound);
+      return;
+    }
+    report_missing();
+    Report_GoesOn("sound %d stays silent", sound);
+    return;
+  }
+  report_missing();
   if (!Plat_SoundLoad(sound, wave.data, wave.bytes, wave.channels, wave.rate,
                       wave.block_align, wave.bits)) {
     Wave_Unload(wave);
+    Load_Refused(e.file_name, "a sample format the sound device refuses (%s, %d bits)",
+                 wave.channels == 2 ? "stereo" : "mono", wave.bits);
+    Report_GoesOn("sound %d stays silent", sound);
     return;
   }
   e.buffer_count = 1;
@@ -58,9 +100,13 @@ void Sound_Init() {
   SoundQueue = SoundQueueState{};
   for (std::int32_t& last : ChannelLastSound) last = 0;
   Wave_ResetPool();
-  if (!Plat_SoundOpen()) return;
+  if (!Plat_SoundOpen()) {
+    Plat_DebugOut("valdrune: no sound device; the game runs without sound effects");
+    return;
+  }
   SoundTable.device = 1;
   for (int sound = 0; sound < SOUND_FILES; ++sound) load_sound(sound);
+  report_missing();
 }
 
 int Play_Effect(int sound) {
