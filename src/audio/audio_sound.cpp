@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "audio/audio.h"
+#include "audio/audio_missing.h"
 #include "assets/asset_report.h"
 #include "audio/audio_wave.h"
 #include "fight/fight_state.h"
@@ -39,32 +40,8 @@ void sound_file_name(int sound, char* out, std::size_t size) {
   std::snprintf(out, size, sound < 100 ? "%02d.wav" : "%d.wav", sound);
 }
 
-// Missing sound files, reported a run of consecutive numbers at a time (a data set without
-// its sounds would otherwise take 178 lines). Written by load_sound and report_missing.
-struct MissingRun {
-  int first = -1;
-  int last = -1;
-};
+// Written by load_sound and Sound_Init.
 MissingRun Missing;
-
-void report_missing() {
-  if (Missing.first < 0) return;
-  char first[12], last[12];
-  sound_file_name(Missing.first, first, sizeof first);
-  sound_file_name(Missing.last, last, sizeof last);
-  if (Missing.first == Missing.last)
-    Plat_DebugOutf("valdrune: %s: missing; sound %d stays silent", first, Missing.first);
-  else
-    Plat_DebugOutf("valdrune: %s to %s: missing; sounds %d to %d stay silent", first, last,
-                   Missing.first, Missing.last);
-  Missing = MissingRun{};
-}
-
-void note_missing(int sound) {
-  if (Missing.first >= 0 && Missing.last + 1 != sound) report_missing();
-  if (Missing.first < 0) Missing.first = sound;
-  Missing.last = sound;
-}
 
 // Loads one sound into its buffer; a failure leaves it empty and silent.
 void load_sound(int sound) {
@@ -73,14 +50,14 @@ void load_sound(int sound) {
   WaveInfo wave;
   if (!Wave_Load(e.file_name, &wave)) {
     if (std::strcmp(Report_Reason(), "missing") == 0) {
-      note_missing(sound);
+      Missing_Note(Missing, sound, sound_file_name, "sound");
       return;
     }
-    report_missing();
+    Missing_Report(Missing, sound_file_name, "sound");
     Report_GoesOn("sound %d stays silent", sound);
     return;
   }
-  report_missing();
+  Missing_Report(Missing, sound_file_name, "sound");
   if (!Plat_SoundLoad(sound, wave.data, wave.bytes, wave.channels, wave.rate,
                       wave.block_align, wave.bits)) {
     Wave_Unload(wave);
@@ -106,7 +83,7 @@ void Sound_Init() {
   }
   SoundTable.device = 1;
   for (int sound = 0; sound < SOUND_FILES; ++sound) load_sound(sound);
-  report_missing();
+  Missing_Report(Missing, sound_file_name, "sound");
 }
 
 int Play_Effect(int sound) {

@@ -47,13 +47,18 @@ void hint(const char* program) {
   std::fprintf(stderr, "%s: --help lists the options\n", program);
 }
 
+bool asks_help(const char* arg) {
+  return std::strcmp(arg, "--help") == 0 || std::strcmp(arg, "-h") == 0;
+}
+
 }  // namespace
 
 OptionsResult Options_Parse(const char* program, const OptionRow* rows, int count, int argc,
                             char** argv) {
+  for (int i = 1; i < argc; ++i)
+    if (asks_help(argv[i])) return OPTIONS_HELP;  // wherever it stands, before any refusal
   for (int i = 1; i < argc; ++i) {
     const char* arg = argv[i];
-    if (std::strcmp(arg, "--help") == 0 || std::strcmp(arg, "-h") == 0) return OPTIONS_HELP;
     const OptionRow* row = find_row(rows, count, arg);
     if (row == nullptr) {
       std::fprintf(stderr, "%s: unknown option \"%s\"\n", program, arg);

@@ -20,7 +20,7 @@ enum OptionsResult { OPTIONS_RUN, OPTIONS_HELP, OPTIONS_REFUSED };
 
 // Reads argv[1..] against the rows. A refusal prints one line naming the option to standard
 // error ("PROGRAM: --frames: "10x" is not a whole number from 1 to 2147483647"), followed by a
-// hint to --help. --help and -h give OPTIONS_HELP and read no further.
+// hint to --help. --help or -h anywhere gives OPTIONS_HELP and nothing is refused.
 OptionsResult Options_Parse(const char* program, const OptionRow* rows, int count, int argc,
                             char** argv);
 

@@ -80,8 +80,9 @@ TEST(Options, RefusalsNameTheOptionAndHelpStopsReading) {
   EXPECT_EQ(syntax.result, OPTIONS_REFUSED);
   EXPECT_EQ(syntax.err.rfind("prog: --start: \"fight\" is not of the form demo\n", 0), 0u);
 
-  // --help wins over anything after it, even what would be refused.
+  // --help wins wherever it stands, even beside what would be refused.
   EXPECT_EQ(parse({"--data", "d", "--help", "--frames", "abc"}).result, OPTIONS_HELP);
+  EXPECT_EQ(parse({"--frames", "abc", "--help"}).result, OPTIONS_HELP);
   EXPECT_EQ(parse({"-h"}).result, OPTIONS_HELP);
 }
 
