@@ -18,7 +18,6 @@
 namespace {
 
 constexpr const char* kProgram = "valdrune-headless";
-constexpr int kStatusRefused = 2;
 
 // What the command line asked for. Written only by the option table's parser.
 struct HeadlessArgs {
@@ -97,16 +96,10 @@ void absolute(const char* path, char* out, std::size_t size) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  switch (Options_Parse(kProgram, kOptions, kOptionCount, argc, argv)) {
-    case OPTIONS_HELP:
-      Options_Usage(stdout, kSynopsis, kOptions, kOptionCount);
-      return 0;
-    case OPTIONS_REFUSED:
-      return kStatusRefused;
-    case OPTIONS_RUN:
-      break;
-  }
-  if (!options_agree()) return kStatusRefused;
+  if (const int status = Options_Read(kProgram, kSynopsis, kOptions, kOptionCount, argc, argv);
+      status >= 0)
+    return status;
+  if (!options_agree()) return OPTIONS_STATUS_REFUSED;
 
   char script_path[1100];
   char shots_path[1100];
@@ -114,7 +107,7 @@ int main(int argc, char** argv) {
   if (Args.shots) absolute(Args.shots, shots_path, sizeof shots_path);
   if (Args.shots && mkdir(shots_path, 0777) != 0 && errno != EEXIST) {
     std::fprintf(stderr, "%s: cannot make the screenshot directory %s\n", kProgram, Args.shots);
-    return kStatusRefused;
+    return OPTIONS_STATUS_REFUSED;
   }
   char review_path[1100];
   if (Args.out || Args.sheet)
@@ -124,13 +117,13 @@ int main(int argc, char** argv) {
     char err[700];
     if (!Headless_LoadScript(script_path, err, sizeof err)) {
       std::fprintf(stderr, "%s: %s\n", kProgram, err);
-      return kStatusRefused;
+      return OPTIONS_STATUS_REFUSED;
     }
   }
   if (chdir(Args.data) != 0) {
     std::fprintf(stderr, "%s: --data: cannot enter %s (%s)\n", kProgram, Args.data,
                  std::strerror(errno));
-    return kStatusRefused;
+    return OPTIONS_STATUS_REFUSED;
   }
   if (Args.pose) return Review_Pose(Args.pose_row, Args.pose_action, Args.pose_frame, review_path);
   if (Args.sheet) return Review_Sheets(review_path);

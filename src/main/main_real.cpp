@@ -20,7 +20,6 @@
 namespace {
 
 constexpr const char* kProgram = "valdrune";
-constexpr int kStatusRefused = 2;
 constexpr const char* kBuildData = VALDRUNE_BUILD_DATA;
 
 // What the command line asked for. Written only by the option table's parser.
@@ -72,15 +71,9 @@ bool enter_data() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  switch (Options_Parse(kProgram, kOptions, kOptionCount, argc, argv)) {
-    case OPTIONS_HELP:
-      Options_Usage(stdout, kSynopsis, kOptions, kOptionCount);
-      return 0;
-    case OPTIONS_REFUSED:
-      return kStatusRefused;
-    case OPTIONS_RUN:
-      break;
-  }
-  if (!enter_data()) return kStatusRefused;
+  if (const int status = Options_Read(kProgram, kSynopsis, kOptions, kOptionCount, argc, argv);
+      status >= 0)
+    return status;
+  if (!enter_data()) return OPTIONS_STATUS_REFUSED;
   return Game_Main();
 }

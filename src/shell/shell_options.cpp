@@ -97,3 +97,17 @@ void Options_Refuse(const char* program, const char* message) {
   std::fprintf(stderr, "%s: %s\n", program, message);
   hint(program);
 }
+
+int Options_Read(const char* program, const char* synopsis, const OptionRow* rows, int count,
+                 int argc, char** argv) {
+  switch (Options_Parse(program, rows, count, argc, argv)) {
+    case OPTIONS_HELP:
+      Options_Usage(stdout, synopsis, rows, count);
+      return 0;
+    case OPTIONS_REFUSED:
+      return OPTIONS_STATUS_REFUSED;
+    case OPTIONS_RUN:
+      break;
+  }
+  return -1;
+}
