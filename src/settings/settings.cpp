@@ -100,7 +100,8 @@ void Settings_Load() {
     Plat_DebugOutf("valdrune: %s: %s; the default settings stay", kFileName,
                    got == 0 ? "empty" : "not a settings file of version 13");
   } else if (got >= 0 && got < SETTINGS_FILE_SIZE) {
-    Plat_DebugOutf("valdrune: %s: too short: %d of %d bytes; the missing ones read as before",
+    Plat_DebugOutf("valdrune: %s: too short: %d of %d bytes; the settings it lacks stay as "
+                   "the record held them (zeros at start-up), brought into range",
                    kFileName, got, SETTINGS_FILE_SIZE);
   }
   if (SettingsRecord[0] != SETTINGS_VERSION) return;
