@@ -88,9 +88,9 @@ void Options_Usage(std::FILE* out, const char* synopsis, const OptionRow* rows, 
     char head[64];
     std::snprintf(head, sizeof head, "%s%s%s", rows[i].name, rows[i].value ? " " : "",
                   rows[i].value ? rows[i].value : "");
-    std::fprintf(out, "  %-24s %s\n", head, rows[i].help);
+    std::fprintf(out, "  %-26s %s\n", head, rows[i].help);
   }
-  std::fprintf(out, "  %-24s %s\n", "--help", "print this and exit");
+  std::fprintf(out, "  %-26s %s\n", "--help", "print this and exit");
 }
 
 void Options_Refuse(const char* program, const char* message) {
