@@ -81,7 +81,6 @@ bool knocked_about(int action) {
 
 void running_action(int fighter) {
   Fighter& f = fighters[fighter];
-  if (knocked_about(f.action)) CpuReadyAtOnce(fighter);
   if (f.freeze_other && f.frame > f.act_win_first[f.action]) f.freeze_other = 0;
   if (link_window(fighter)) return;
   if (f.frame == f.act_first[f.action] + 1 && !f.root_track) root_track_begin(fighter);
@@ -136,6 +135,7 @@ void fighter_animate(int fighter) {
   Fighter& f = fighters[fighter];
   if (!in_range(f.action, 0, MAX_ACTIONS - 1)) return;
   guard_stun(f);
+  if (knocked_about(f.action)) CpuReadyAtOnce(fighter);
   const bool lying = f.action == ACT_LYING || f.action == ACT_LYING_B;
   if (lying) get_up(fighter, f.action == ACT_LYING_B);
   else if (f.action < 600 && f.frame >= f.act_last[f.action]) end_action(fighter);
