@@ -164,17 +164,6 @@ void box_points(const float* c, const float* h, float (*out)[3]) {
   out[6][0] = c[0], out[6][1] = c[1], out[6][2] = c[2];
 }
 
-// Spreads a burning effect of `kind` over the whole body, phases staggered.
-void spread_part_effect(int fighter, int kind) {
-  Fighter& f = fighters[fighter];
-  for (int part = 0; part < FX_PARTS; ++part) {
-    f.part_fx_on[part] = 1;
-    f.part_fx_phase[part] = -2 * ((frame_count + part) % 4);
-    f.part_fx_kind[part] = kind;
-    f.part_fx_hold[part] = 0;
-  }
-}
-
 void strike_body(int attacker, int defender, int part) {
   Fighter& a = fighters[attacker];
   const Fighter& d = fighters[defender];
@@ -261,5 +250,16 @@ void projectile_clash() {
       if (--q.hit_points <= 0) q.active = 0;
       Queue_Sound(0, kClashSound);
     }
+  }
+}
+
+// Spreads a burning effect of `kind` over the whole body, phases staggered.
+void spread_part_effect(int fighter, int kind) {
+  Fighter& f = fighters[fighter];
+  for (int part = 0; part < FX_PARTS; ++part) {
+    f.part_fx_on[part] = 1;
+    f.part_fx_phase[part] = -2 * ((frame_count + part) % 4);
+    f.part_fx_kind[part] = kind;
+    f.part_fx_hold[part] = 0;
   }
 }

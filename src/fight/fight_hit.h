@@ -25,5 +25,7 @@ std::int32_t Strike_Power(std::int32_t kind, std::int32_t power);
 std::int32_t Strike_Height(std::int32_t kind, std::int32_t* special);
 // The sound a strike's cue plays for this character; -1 for none.
 int Cue_Sound(int cue, int character);
+// Spreads a burning effect of `kind` (0..2) over the fighter's whole body, phases staggered.
+void spread_part_effect(int fighter, int kind);
 // Puts a fighter straight into a reaction at its first frame (the hit code's own set-up).
 void set_reaction(int fighter, int action);

@@ -156,8 +156,8 @@ int heavy_reaction(int defender, int guard_class, int damage, float launch, int 
   return guard_class == 2 ? 171 : 166;
 }
 
-// The side a banner names: 1 for the fighter on the left, 2 for the one on the right.
-std::int32_t banner_side(int fighter) { return fighter == Match.side_a ? 1 : 2; }
+// The side of the display a banner stands on: 1 for fighter 0's, 2 for fighter 1's.
+std::int32_t banner_side(int fighter) { return fighter + 1; }
 
 // A reversal (a counter, or a blow that catches the opponent's strike) is announced unless
 // one is already showing.

@@ -6,6 +6,7 @@
 
 #include "audio/audio.h"
 #include "fight/fight.h"
+#include "fight/fight_hit.h"
 #include "fight/fight_round.h"
 #include "fight/fight_state.h"
 #include "input/input.h"
@@ -40,23 +41,13 @@ void show_fighter(Fighter& f, const ReplayFighter& r) {
   std::memcpy(f.part_fx_kind, r.part_fx_kind, sizeof r.part_fx_kind);
 }
 
-// Spreads the saved effect back over the whole body.
-void respread(Fighter& f, int kind) {
-  for (int part = 0; part < FX_PARTS; ++part) {
-    f.part_fx_on[part] = 1;
-    f.part_fx_phase[part] = -2 * ((frame_count + part) % 4);
-    f.part_fx_kind[part] = kind;
-    f.part_fx_hold[part] = 0;
-  }
-}
-
 void restore_saved() {
   for (int i = 0; i < 2; ++i) {
     Fighter& f = fighters[i];
     const ReplaySaved& s = Replay.saved[i];
     f.action = s.action, f.frame = s.frame;
     f.pos_x = s.pos_x, f.pos_y = s.pos_y, f.pos_z = s.pos_z;
-    if (s.head_fx >= 1 && s.head_fx <= 3) respread(f, s.head_fx);
+    if (s.head_fx >= 1 && s.head_fx <= 3) spread_part_effect(i, s.head_fx - 1);
   }
 }
 

@@ -53,10 +53,11 @@ void fight_call_step() {
 // A side may join as challenger unless it is a human still in the match.
 bool may_join(int side) { return !(Match.human[side] && !match_won(opponent(side))); }
 
-// The input of a side: its own devices, cleared again for a side the computer plays (so that a
-// start press there can still call a challenger).
+// The input of a side: its own devices, where a start press may call a challenger; then, for a
+// side the computer plays, cleared for the computer to write.
 void read_side(int side) {
   Input_Read(side);
+  if (may_join(side)) Challenger_Join(side);
   if (!Match.human[side]) Input_Clear(side);
 }
 
@@ -87,10 +88,7 @@ void intro_step() {
   }
   for (int i = 0; i < 2; ++i) {
     read_side(i);
-    if (Match.human[i] && !match_won(opponent(i)))
-      intro_stance(i);
-    else
-      Challenger_Join(i);
+    if (!may_join(i)) intro_stance(i);
   }
   move_step();
 }
@@ -117,7 +115,7 @@ void fighters_step() {
 }
 
 void deciding_blow() {
-  if (Match.ko_state != 0) return;
+  if (Match.ko_state != 0 || Match.time_over) return;  // after the time-over call the bars decide
   int beaten = -1;
   for (int i = 0; i < 2 && beaten < 0; ++i)
     if (fighters[i].life <= fighters[i].damage) beaten = i;
@@ -138,7 +136,6 @@ void fighting_step() {
   if (Match.after_ko && ++Match.after_ko_frames == kClosingDelay) Match.camera_reset = 1;
   for (int i = 0; i < 2; ++i) {
     read_side(i);
-    if (may_join(i)) Challenger_Join(i);
     // The computer plays a computer side, and a player's side once the other side has won
     // the match, unless the other side's super freezes it.
     const bool computer = !Match.human[i] || match_won(opponent(i));

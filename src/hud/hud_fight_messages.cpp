@@ -1,5 +1,7 @@
 // The fight display in front of the fighters: the combo counter and the banners that slide in
 // and out, the key-change notice, the power gauges, and the one message of the moment.
+#include <GL/gl.h>
+
 #include <algorithm>
 
 #include "fight/fight_state.h"
@@ -101,11 +103,15 @@ void draw_key_change() {
 
 }  // namespace
 
+// Everything here lies at the front layer, over the whole scene and drawn last: the depth test
+// could reject nothing, so it is left out while the messages draw.
 void DrawHudMessages() {
   SpriteDraw.Layer_Z = kFrontLayer;
+  glDisable(GL_DEPTH_TEST);
   if (Match.demo == 1) {
     Draw_Raster(SPR_DEMO, 2, 7);
     SpriteDraw.Layer_Z = kBackLayer;
+    glEnable(GL_DEPTH_TEST);
     return;
   }
   for (Fighter& f : fighters)
@@ -119,4 +125,5 @@ void DrawHudMessages() {
   }
   Draw_Message();
   SpriteDraw.Layer_Z = kBackLayer;
+  glEnable(GL_DEPTH_TEST);
 }

@@ -38,7 +38,29 @@ void draw_mesh(const StageMesh& mesh, ScreenVertex* sv, float dx, float dz) {
 }
 
 
+// A picture without an alpha channel covers what lies under it whatever the blend function.
+bool without_alpha(std::int32_t slot) {
+  if (slot < 0 || slot >= TEXTURE_SLOTS) return false;
+  glBindTexture(GL_TEXTURE_2D, Textures.TextureId[slot]);
+  GLint alpha_bits = 1;
+  glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_ALPHA_SIZE, &alpha_bits);
+  return alpha_bits == 0;
+}
+
+// Floor, light pool and backdrop drawn over each other in the current (opaque) colour: when
+// none of their pictures has an alpha channel, blending could change nothing, and the arena
+// (most of the screen) is drawn without it.
+bool arena_opaque() {
+  if (!without_alpha(Stage.floor_slot)) return false;
+  if (Stage.Stage_Light == 1 && !without_alpha(Stage.light_slot)) return false;
+  for (std::int32_t slot : Stage.backdrop_slot)
+    if (!without_alpha(slot)) return false;
+  return true;
+}
+
 void draw_arena() {
+  const bool opaque = arena_opaque();
+  if (opaque) glDisable(GL_BLEND);
   Set_DrawMode(200);
   Draw_Floor();
   Set_DrawMode(8);
@@ -47,6 +69,7 @@ void draw_arena() {
   Draw_BackdropAt(BACKDROP_WIDTH);
   Draw_BackdropAt(-2.0f * BACKDROP_WIDTH);
   Draw_BackdropAt(2.0f * BACKDROP_WIDTH);
+  if (opaque) glEnable(GL_BLEND);
 }
 
 void draw_super_picture(int sprite) {

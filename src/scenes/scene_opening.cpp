@@ -29,9 +29,6 @@
 
 OpeningState Opening;
 
-// Plays one frame of a recorded camera path anchored on a fighter; 1 when it was the last.
-int PlayCameraPath(int path, int fighter, int end_action);
-
 namespace {
 
 constexpr int kFlower = 450;  // the floor's flower pattern
@@ -65,7 +62,12 @@ struct ScriptRange {
   std::int32_t first, last;
 };
 constexpr ScriptRange kFighter0Shown[] = {
-    {0, 199}, {452, 569}, {723, 795}, {855, 1027}, {1152, 1280}};
+    {0, 199},      // the first bout
+    {452, 569},    // after the flurry
+    {723, 795},    // the exchange
+    {855, 1027},   // the long chase
+    {1152, 1280},  // the finish
+};
 
 // The flurry of blows: a sound every ten script frames.
 constexpr ScriptRange kFlurry = {325, 450};
@@ -187,7 +189,10 @@ void draw_fight(int s) {
   }
   Set_DrawMode(141);
   Blend_Normal();
-  white_over(frame_count % 16 == 0 ? 128 : 64, Opening.OpeningFade != 0);  // a flicker
+  // A faint flicker over the last picture, which trails the motion; the fight is drawn over
+  // it, so the overlay's depth is cleared.
+  white_over(frame_count % 16 == 0 ? 128 : 64, Opening.OpeningFade != 0);
+  Clear_Depth();
   if (Opening.OpeningWhite >= 1) {
     Opening.OpeningWhite += kWhiteStep;
     Clear_Depth();

@@ -21,7 +21,15 @@ RankingState Ranking;
 namespace {
 
 // The stages shown behind the rankings in turn, by character.
-constexpr std::int32_t kBackdrops[] = {4, 5, 7, 8, 9, 10, 11};
+constexpr std::int32_t kBackdrops[] = {
+    4,   // 0
+    5,   // 1
+    7,   // 2
+    8,   // 3
+    9,   // 4
+    10,  // 5
+    11,  // 6
+};
 constexpr int kBackdropCount = sizeof kBackdrops / sizeof kBackdrops[0];
 constexpr int kWhite = 149;
 constexpr float kPan = 0.15f;  // look-at x a frame
@@ -71,7 +79,9 @@ void draw_ranking() {
 
 }  // namespace
 
-int Ranking_StageCharacter(int n) { return kBackdrops[((n % kBackdropCount) + kBackdropCount) % kBackdropCount]; }
+int Ranking_StageCharacter(int n) {
+  return kBackdrops[((n % kBackdropCount) + kBackdropCount) % kBackdropCount];
+}
 
 void Ranking_Scene() {
   if (Shell.RankingEnter == 1) {

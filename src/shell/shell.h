@@ -64,3 +64,6 @@ void System_Keys();
 void Fight_Frame();
 void Fight_Draw();
 void Challenger_Step();
+// One fight frame as a frame behind schedule runs it, without the pacer: poses and part boxes,
+// the round clock, the fight update and the camera. For runs without a picture.
+void Fight_Step();

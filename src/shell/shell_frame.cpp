@@ -158,15 +158,25 @@ void draw_fight_picture() {
     Swap_Buffers();
 }
 
+// Frames that are not drawn still place the fighters, so that the hit tests see their boxes.
+void place_undrawn() {
+  Set_View();
+  Place_FighterOnly(0);
+  Place_FighterOnly(1);
+}
+
+// The round clock runs until the round is decided.
+void run_clock() {
+  if (Match.after_ko == 0 && Match.ko_state == 0 && !victory_running()) update_clock();
+}
+
 }  // namespace
 
 void Fight_Draw() {
   Pose_Fighter(0);
   Pose_Fighter(1);
-  if (!Pacer_Due()) {  // behind schedule: simulated, not drawn; the hit tests keep their boxes
-    Set_View();
-    Place_FighterOnly(0);
-    Place_FighterOnly(1);
+  if (!Pacer_Due()) {  // behind schedule: simulated, not drawn
+    place_undrawn();
   } else if (Shell.WhiteFrames >= 1) {
     Clear_Screen(255, 255, 255);
     Clear_Depth();
@@ -175,5 +185,14 @@ void Fight_Draw() {
   } else {
     draw_fight_picture();
   }
-  if (Match.after_ko == 0 && Match.ko_state == 0 && !victory_running()) update_clock();
+  run_clock();
+}
+
+void Fight_Step() {
+  Pose_Fighter(0);
+  Pose_Fighter(1);
+  place_undrawn();
+  run_clock();
+  Fight_Update();
+  UpdateFightCamera();
 }

@@ -241,29 +241,4 @@ TEST_F(Blow, TheLastComputerOpponentStrikesHalfAgainAsHard) {
   EXPECT_EQ(fighters[1].damage, 10);
 }
 
-TEST_F(Blow, ABusyFighterStrikesNothingAndMarkerFramesArmNothing) {
-  fighters[0].busy = 1;
-  strike_frame(4);
-  fighter_strike(0);
-  EXPECT_EQ(fighters[1].damage, 0);
-
-  SetUp();
-  strike_frame(5);  // the body striking the floor
-  fighter_strike(0);
-  EXPECT_EQ(fighters[1].damage, 0);
-  EXPECT_EQ(fighters[0].hit_new, 0);
-}
-
-TEST_F(Blow, ProjectilesClashAndWearDown) {
-  Effects.Projectile[0] = {1, 0, 1, 90, 7, 0, 25, 10, 0, 0, 0, 0.5f, 0, 0};
-  Effects.Projectile[1] = {1, 1, 1, 270, 7, 0, 24, 1, 1.5f, 0.5f, 0, -0.5f, 0, 0};
-  Effects.Projectile[2] = {1, 1, 1, 270, 7, 0, 24, 1, 9.0f, 0, 0, -0.5f, 0, 0};
-  projectile_clash();
-  EXPECT_EQ(Effects.Projectile[0].hit_points, 9);
-  EXPECT_EQ(Effects.Projectile[1].active, 0);
-  EXPECT_EQ(Effects.Projectile[2].active, 1);  // too far to meet
-  EXPECT_EQ(fighters[0].projectile_live, 1);
-  EXPECT_EQ(fighters[1].projectile_live, 1);
-}
-
 }  // namespace

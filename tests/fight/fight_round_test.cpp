@@ -9,6 +9,7 @@
 #include "fight/fight_ranking.h"
 #include "fight/fight_state.h"
 #include "input/input.h"
+#include "platform/headless/headless.h"
 #include "render/render_effect.h"
 #include "scenes/scenes.h"
 #include "shell/shell.h"
@@ -165,6 +166,23 @@ TEST_F(Round, AFinishedMatchSendsTheGameOn) {
   end_round();
   EXPECT_EQ(Shell.GameMode, MODE_FIGHT);
   EXPECT_EQ(fighters[0].damage, 0);
+}
+
+TEST_F(Round, AStartPressOnTheComputersSideCallsAChallenger) {
+  Headless_ResetInput();
+  Input_Init();
+  Match.human[0] = 1;
+  Match.credits = 3;
+  Match.hit_stop = 5;  // the fighters stay as they are
+  Headless_SetKey('A', true);  // player 1's start: a player in the match does not interrupt it
+  Fight_Update();
+  EXPECT_EQ(Match.challenger, 0);
+  Headless_SetKey('K', true);  // player 2's start on the computer's side
+  Fight_Update();
+  Headless_ResetInput();
+  EXPECT_EQ(Match.challenger, 2);
+  EXPECT_EQ(Match.credits, 2);
+  EXPECT_EQ(Match.challenger_phase, 3);
 }
 
 }  // namespace

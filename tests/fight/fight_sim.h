@@ -10,16 +10,12 @@
 
 #include "assets/asset_anim.h"
 #include "assets/asset_character.h"
-#include "assets/asset_model.h"
+#include "render/render_math.h"
 #include "fight/fight.h"
 #include "fight/fight_state.h"
 #include "input/input.h"
 #include "platform/headless/headless.h"
 #include "platform/platform.h"
-#include "render/render_fighter.h"
-#include "render/render_math.h"
-#include "render/render_view.h"
-#include "scenes/scene_pictures.h"
 #include "shell/shell.h"
 
 namespace sim {
@@ -69,18 +65,10 @@ inline void press_pattern(long frame) {
   Headless_SetKey('J', f % 50 == 45);                     // player 2 attack 3
 }
 
-// One undrawn fight frame: poses and part boxes, then the fight's update and its clock.
+// One undrawn fight frame.
 inline void step() {
   if (++frame_count == 30000) frame_count = 0;
-  Pose_Fighter(0);
-  Pose_Fighter(1);
-  Set_View();
-  Place_FighterOnly(0);
-  Place_FighterOnly(1);
-  Fight_Update();
-  const int a0 = fighters[0].action, a1 = fighters[1].action;
-  const bool posing = a0 == 12 || a0 == 13 || a1 == 12 || a1 == 13;
-  if (Match.after_ko == 0 && Match.ko_state == 0 && !posing) update_clock();
+  Fight_Step();
 }
 
 inline std::uint64_t fnv(std::uint64_t h, const void* data, std::size_t size) {

@@ -124,25 +124,6 @@ TEST_F(AttractScenes, TheEndingStepsEverySecondFrameThroughItsPanelsThenTheTitle
   EXPECT_EQ(Shell.TitleEnter, 1);
 }
 
-TEST_F(AttractScenes, TheEndingsCameraPatternRepeatsEverySevenPanels) {
-  std::int32_t pitch = 0, heading = 0, p2 = 0, h2 = 0;
-  for (int p = 0; p < 17; ++p)
-    for (int q : {0, 38, 149}) {
-      Ending_CameraAngles(p, q, &pitch, &heading);
-      Ending_CameraAngles(p + 7, q, &p2, &h2);
-      EXPECT_EQ(pitch, p2);
-      EXPECT_EQ(heading, h2);
-      EXPECT_GE(heading, 0);
-      EXPECT_LT(heading, 360);
-    }
-  // The panels fade in over 26 phases, hold, and fade out from phase 115.
-  EXPECT_EQ(Ending_PanelLevel(0), 0);
-  EXPECT_EQ(Ending_PanelLevel(26), 255);
-  EXPECT_EQ(Ending_PanelLevel(114), 255);
-  EXPECT_EQ(Ending_PanelLevel(140), 5);
-  EXPECT_EQ(Ending_PanelLevel(149), 0);
-}
-
 TEST_F(AttractScenes, TheOpeningRunsItsLogoPathFlashAndTitleThenHandsOver) {
   scene_test::write_set(PICS_OPENING);
   scene_test::write_set(PICS_TITLE);

@@ -66,23 +66,6 @@ TEST_F(TitleScreen, AQuietTitleHandsOverToTheAttractItemsInTurnAfter700Frames) {
   }
 }
 
-TEST_F(TitleScreen, EnteringResetsTheGameForNewPlayers) {
-  Match.human[0] = Match.human[1] = 1;
-  select_done[0] = select_done[1] = 1;
-  select_slot[0] = 17;
-  select_slot[1] = 3;
-  Match.stage_count = 6;
-  TitleTimer = 400;
-  frames(1);
-  EXPECT_EQ(Match.human[0] + Match.human[1], 0);
-  EXPECT_EQ(select_done[0] + select_done[1], 0);
-  EXPECT_EQ(select_slot[0], 0);
-  EXPECT_EQ(select_slot[1], 9);
-  EXPECT_EQ(Match.stage_count, 0);
-  EXPECT_EQ(TitleTimer, 1);
-  EXPECT_EQ(Shell.TitleEnter, 0);
-}
-
 TEST_F(TitleScreen, StartOnThe699thFrameBeginsAGameAndTheCycleStays) {
   frames(1);
   TitleTimer = TITLE_WAIT - 3;  // the title's 697th frame has run

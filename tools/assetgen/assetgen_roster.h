@@ -1,5 +1,6 @@
 // The fighters as the generated content presents them: names and voices. Characters 10..13
-// are second takes on 3, 0, 7 and 9 and speak with their voices; 14 is the final opponent.
+// fight as 3, 0, 7 and 9 and speak with their voices, under names of their own; 14 is the
+// final opponent.
 #pragma once
 
 namespace gen {
@@ -25,10 +26,10 @@ constexpr RosterEntry kRoster[kRosterSize] = {
     {"Isolde", "en+f1", 66, 175, 100, "chorus 0.6 0.9 40 0.4 0.25 2 -t"},   // 7
     {"Dario", "en+m4", 52, 185, 0, "overdrive 4"},                     // 8
     {"Hakon", "en+m6", 26, 150, -300, "overdrive 5 bass +5"},          // 9
-    {"Ardent", "en+m7", 62, 195, 200, ""},                             // 10: plays as 3
-    {"Arden Shade", "en+m3", 48, 175, 0, "overdrive 3"},               // 11: plays as 0
-    {"Isolde Veil", "en+f1", 66, 175, 100, ""},                        // 12: plays as 7
-    {"Hakon Iron", "en+m6", 26, 150, -300, "overdrive 5 bass +5"},     // 13: plays as 9
+    {"Kestrel", "en+m7", 62, 195, 200, ""},                           // 10: plays as 3
+    {"Garrick", "en+m3", 48, 175, 0, "overdrive 3"},                   // 11: plays as 0
+    {"Liesel", "en+f1", 66, 175, 100, ""},                             // 12: plays as 7
+    {"Torsten", "en+m6", 26, 150, -300, "overdrive 5 bass +5"},        // 13: plays as 9
     {"Valdr", "en+m1", 20, 140, -500, "overdrive 10 reverb 30"},       // 14: the final opponent
 };
 

@@ -1,5 +1,6 @@
 // The ending: twenty-four panels that tell, in pictures and short captions, how the fortress
 // fell and where the champion went next. Panels are authored at twice their layout size.
+#include <cstdlib>
 #include <string>
 
 #include "pictures/pic_figure.h"
@@ -22,6 +23,19 @@ void Border(Canvas& c) {
   for (int y = 0; y < c.h; ++y) c.at(0, y) = c.at(c.w - 1, y) = Hex(0xD8B060);
 }
 
+// Every caption is set in one size; a line too long for its panel breaks at the space nearest
+// its middle instead of being set smaller.
+constexpr int kCaptionCap = 20;
+constexpr int kCaptionLineGap = 30;
+
+TextStyle Caption_Style() {
+  TextStyle s = Style_Label(kCaptionCap, 0);
+  s.face = Face::SerifBold;
+  s.top = Hex(0xFFF4DC), s.bottom = Hex(0xE0C890);
+  s.tracking = 0.5f;
+  return s;
+}
+
 Canvas Caption(const std::string& text, int w, int h) {
   Canvas c = Make_Canvas(w, h);
   for (int y = 0; y < h; ++y)
@@ -29,11 +43,18 @@ Canvas Caption(const std::string& text, int w, int h) {
       float edge = Smooth(0, w * 0.12f, std::min(x, w - 1 - x) * 1.0f);
       c.at(x, y) = Hex(0x000000, 0.7f * edge);
     }
-  TextStyle s = Style_Label(text.size() <= 12 ? h * 2 / 5 : h / 5, w - 40);
-  s.face = Face::SerifBold;
-  s.top = Hex(0xFFF4DC), s.bottom = Hex(0xE0C890);
-  s.tracking = 0.5f;
-  Text_Place(c, text, s, w / 2, h / 2, Align::Centre);
+  const TextStyle s = Caption_Style();
+  if (Text_Styled(text, s).ink_w <= w - 40) {
+    Text_Place(c, text, s, w / 2, h / 2, Align::Centre);
+    return c;
+  }
+  std::size_t cut = std::string::npos;
+  for (std::size_t i = 0; i < text.size(); ++i)
+    if (text[i] == ' ' && (cut == std::string::npos || std::abs(static_cast<long>(i) - static_cast<long>(text.size() / 2)) <
+                                                           std::abs(static_cast<long>(cut) - static_cast<long>(text.size() / 2))))
+      cut = i;
+  Text_Place(c, text.substr(0, cut), s, w / 2, h / 2 - kCaptionLineGap / 2, Align::Centre);
+  Text_Place(c, text.substr(cut + 1), s, w / 2, h / 2 + kCaptionLineGap / 2, Align::Centre);
   return c;
 }
 

@@ -53,6 +53,13 @@ void Options(Output& out) {
                  {"sound.bmp", "SOUND"},        {"exit.bmp", "EXIT"},          {"g_fps.bmp", "FRAME RATE"},
                  {"punch1.bmp", "PUNCH 1"},     {"punch2.bmp", "PUNCH 2"},     {"kick1.bmp", "KICK 1"},
                  {"kick2.bmp", "KICK 2"}};
+  // Every row label in one size: the largest at which the longest still fits its cell.
+  label.max_width = 0;
+  for (bool fits = false; !fits && label.height > 6;) {
+    fits = true;
+    for (const auto& l : kLabels) fits = fits && Text_Styled(l.text, label).ink_w <= 122;
+    if (!fits) --label.height;
+  }
   for (const auto& l : kLabels) Save_Rgba(out, l.file, Text_Cell_At(l.text, label, 128, 16, 2, 8, Align::Left));
   TextStyle title = Style_Gold(11, 250);
   Save_Rgba(out, "mode.bmp", Text_Cell_At("OPTIONS", title, 256, 16, 1, 8, Align::Left));

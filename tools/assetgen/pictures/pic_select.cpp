@@ -125,13 +125,25 @@ void Empty_Side(Output& out) {
   Save_Rgb(out, "scom.bmp", c);
   TextStyle q = Style_Call(100, 120);
   q.face = Face::SerifBold;
-  Save_Rgba(out, "slqus.bmp", Text_Cell("?", q, 128, 128, 69, 64));
-  Save_Rgba(out, "slcom.bmp", Text_Cell("PRESS START", Style_Label(14, 170), 256, 32, 91, 16));
+  // Both are drawn at the left side's x and at the right side's (the question mark at 59 and
+  // 388, the call at 37 and 349), so they keep clear of the screen's right edge from there.
+  Save_Rgba(out, "slqus.bmp", Text_Cell("?", q, 128, 128, 60, 64));
+  Save_Rgba(out, "slcom.bmp", Text_Cell("PRESS START", Style_Label(14, 140), 256, 32, 80, 16));
 }
 
 void Titles(Output& out) {
   Save_Rgba(out, "slctply.bmp", Text_Cell("SELECT YOUR FIGHTER", Style_Gold(18, 250), 256, 32, 125, 16));
+  // "VS" between the two portraits with a spark streaking through it up to the right; the
+  // streak carries the picture on into the right-hand piece.
   ScreenCanvas s = Make_Screen();
+  const float m = static_cast<float>(s.margin);
+  Canvas streak = Make_Canvas(s.c.w, s.c.h);
+  Stroke_Line(streak, m + 196, m + 214, m + 370, m + 170, 5, Hex(0xFFB040));
+  Canvas glow = streak;
+  Blur(glow, 6);
+  Draw(s.c, glow, 0, 0);
+  Draw(s.c, streak, 0, 0);
+  Stroke_Line(s.c, m + 200, m + 213, m + 366, m + 171, 1.5f, Hex(0xFFF0C0));
   Screen_Text(s, "VS", Style_Call(48, 140), 256, 192);
   Save_Rgba(out, "svs1.bmp", Screen_Piece(s, 184, 160, 128, 64));
   Save_Rgba(out, "svs2.bmp", Screen_Piece(s, 312, 160, 64, 64));

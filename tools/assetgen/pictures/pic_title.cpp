@@ -98,7 +98,12 @@ void Frame(Output& out) {
 
 void Logo(Output& out) {
   ScreenCanvas s = Logo_Screen();
-  Save_Rgba(out, "tit1_1.bmp", Screen_Piece(s, 9, 100, 256, 128));
+  // The halves are drawn at x 9 and 257, so they overlap by eight columns: the left one leaves
+  // those to the right one, or the glow there would show twice as a seam.
+  Canvas left = Screen_Piece(s, 9, 100, 256, 128);
+  for (int y = 0; y < left.h; ++y)
+    for (int x = 257 - 9; x < left.w; ++x) left.at(x, y).a = 0;
+  Save_Rgba(out, "tit1_1.bmp", left);
   Save_Rgba(out, "tit1_2.bmp", Screen_Piece(s, 257, 100, 256, 128));
   // The glow that shrinks onto the logo in the opening: it finally covers screen (-27, 134)
   // to (530, 225).
