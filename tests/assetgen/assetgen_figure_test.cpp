@@ -2,6 +2,7 @@
 // the character table expects, and geometry the fight depends on.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <memory>
@@ -166,12 +167,46 @@ TEST(AssetgenFigure, FigureSpansTheModelSpaceTheGameExpects) {
         lo = std::min(lo, m.vertices[i].y);
         hi = std::max(hi, m.vertices[i].y);
       }
-    EXPECT_NEAR(hi, 0.8f, 0.5f) << Fig_Look(c).name;
+    // Slight and tall builds stand lower and higher; the boss stands above them all.
+    EXPECT_NEAR(hi, c == 14 ? 2.3f : 0.8f, 0.7f) << Fig_Look(c).name;
     // Soles a little below the foot's centre, which the stance puts at the character's foot height.
     float foot = Fig_FootHeight(c) - kStandingY - Fig_StandingOffset(c);
     EXPECT_NEAR(lo, foot - 0.35f, 0.6f) << Fig_Look(c).name;
     EXPECT_NEAR(foot, -8.5f, 1.1f) << Fig_Look(c).name;
   }
+}
+
+// Crown-to-sole height and the breadth of the chest piece of a character's mesh.
+void Measure(int c, float* height, float* breadth) {
+  const Model& m = *Row(c).model;
+  float lo = 1e9f, hi = -1e9f, left = 1e9f, right = -1e9f;
+  for (int i = 1; i <= m.vertex_count; ++i) {
+    const Vertex& v = m.vertices[i];
+    if (v.part > 21) continue;
+    lo = std::min(lo, v.y), hi = std::max(hi, v.y);
+    if (v.part == P_CHEST) left = std::min(left, v.x), right = std::max(right, v.x);
+  }
+  *height = hi - lo;
+  *breadth = right - left;
+}
+
+TEST(AssetgenFigure, BuildsSetTheFightersApartAndTheBossIsTheLargest) {
+  float height[kCharacters], breadth[kCharacters];
+  for (int c = 0; c < kCharacters; ++c) Measure(c, &height[c], &breadth[c]);
+  const float h0 = height[0], b0 = breadth[0];
+  int heavy = 0, tall = 0, slight = 0, average = 0;
+  for (int c = 0; c < 14; ++c) {
+    EXPECT_GT(height[14], height[c] + 0.3f) << Fig_Look(c).name;
+    EXPECT_GT(breadth[14], breadth[c]) << Fig_Look(c).name;
+    if (breadth[c] >= 1.15f * b0) ++heavy;
+    else if (height[c] >= h0 + 0.3f) ++tall;
+    else if (height[c] <= h0 - 0.2f && breadth[c] <= 0.9f * b0) ++slight;
+    else if (std::fabs(height[c] - h0) < 0.2f) ++average;
+  }
+  EXPECT_GE(heavy, 2);
+  EXPECT_GE(tall, 2);
+  EXPECT_GE(slight, 2);
+  EXPECT_GE(average, 2);
 }
 
 TEST(AssetgenFigure, TexturesArePowerOfTwoAndPalettesDiffer) {

@@ -75,6 +75,7 @@ bool Mesh_Loft(Model& m, const Loft& lf, const Ring* rings, int ring_count) {
   int first = m.vertex_count + 1;
   for (int i = 0; i < ring_count; ++i) {
     float v = ring_count > 1 ? lf.v0 + (lf.v1 - lf.v0) * i / (ring_count - 1) : lf.v0;
+    if (lf.ring_v) v = lf.ring_v[i];
     for (int j = 0; j < cols; ++j) {
       float theta = -0.5f * kPi + 2.0f * kPi * j / lf.sides;  // starts at the back
       float u = lf.u0 + (lf.u1 - lf.u0) * j / lf.sides;
@@ -106,6 +107,39 @@ bool Mesh_Loft(Model& m, const Loft& lf, const Ring* rings, int ring_count) {
   return true;
 }
 
+namespace {
+
+// Corner number of the box corner at the low (0) or high (1) end of each axis.
+int Box_Corner(int ix, int iy, int iz) { return iy * 4 + (iz ? (ix ? 2 : 3) : (ix ? 1 : 0)); }
+
+}  // namespace
+
+// The floor shadow of a box is the box swept along its longest side: whichever way the part
+// lies, its outline is covered by the two diagonal sections along that side (one of them always
+// spans the outline's full width), with half of each end face to round off the ends. Covering
+// the two end faces and only one section instead leaves thin streaks wherever the other
+// diagonal is the wide one.
+void Box_Shadow(float size_x, float size_y, float size_z, std::int16_t out[18]) {
+  const float size[3] = {size_x, size_y, size_z};
+  int along = 1;
+  if (size[0] > size[along]) along = 0;
+  if (size[2] > size[along]) along = 2;
+  const int u = along == 0 ? 1 : 0, v = along == 2 ? 1 : 2;
+  // End `e`'s corners in order round the face.
+  auto corner = [&](int e, int k) {
+    static constexpr int kRound[4][2] = {{0, 0}, {1, 0}, {1, 1}, {0, 1}};
+    int at[3];
+    at[along] = e;
+    at[u] = kRound[k][0];
+    at[v] = kRound[k][1];
+    return static_cast<std::int16_t>(Box_Corner(at[0], at[1], at[2]));
+  };
+  const std::int16_t tris[18] = {corner(0, 0), corner(0, 2), corner(1, 2), corner(0, 0), corner(1, 2), corner(1, 0),
+                                 corner(0, 1), corner(0, 3), corner(1, 3), corner(0, 1), corner(1, 3), corner(1, 1),
+                                 corner(0, 0), corner(0, 1), corner(0, 2), corner(1, 0), corner(1, 2), corner(1, 3)};
+  std::copy(tris, tris + 18, out);
+}
+
 void Mesh_PartBox(const Model& m, int part, PartBox& box, bool& any) {
   float lo[3] = {1e9f, 1e9f, 1e9f}, hi[3] = {-1e9f, -1e9f, -1e9f};
   any = false;
@@ -128,9 +162,7 @@ void Mesh_PartBox(const Model& m, int part, PartBox& box, bool& any) {
     box.corner[c][1] = c >= 4 ? hi[1] : lo[1];
     box.corner[c][2] = iz ? hi[2] : lo[2];
   }
-  // Shadow: the lower face, the upper face and the diagonal section between them.
-  static constexpr std::int16_t kShadow[18] = {0, 1, 2, 0, 2, 3, 4, 5, 6, 4, 6, 7, 0, 2, 6, 0, 6, 4};
-  std::copy(kShadow, kShadow + 18, box.shadow);
+  Box_Shadow(hi[0] - lo[0], hi[1] - lo[1], hi[2] - lo[2], box.shadow);
 }
 
 void Mesh_Finish(Model& m, const int* region_to_texture, int max_tag) {
