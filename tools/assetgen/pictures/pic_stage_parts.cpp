@@ -178,7 +178,8 @@ void Volcano(Canvas& c, const StageLook& L, int base) {
   }, [&](float x, float y) {
     // A lava stream runs down the flank beside the central tower, from the crater's lip.
     float lip = base - 290 + 60 * 0.55f;
-    float lava = std::fabs(x - 60 - 0.35f * (y - lip) + 8 * std::sin(y * 0.08f)) < 4 && y > lip + 2 ? 1.0f : 0.0f;
+    float drop = y - lip;
+    float lava = std::fabs(x - 60 - 0.35f * drop + 3 * std::sin(y * 0.05f)) < 2.5f + 0.02f * drop && drop > 2 ? 1.0f : 0.0f;
     float depth = Clamp01((y - (base - 290.0f)) / 290.0f);
     return Mix(Mix(flank, Scale(flank, 0.7f), depth), L.lights, lava);
   });
