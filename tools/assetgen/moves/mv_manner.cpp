@@ -153,6 +153,15 @@ mot::Pose Mv_KickArms(int character, const mot::Pose& pose) {
   return p;
 }
 
+mot::Pose Mv_FreeArm(int character, const mot::Pose& pose, bool lead) {
+  const mot::Pose guard = Mv_GuardPose(character);
+  mot::Pose p = pose;
+  const int upper = lead ? 5 : 11;
+  for (int part : {upper, upper + 1})
+    for (int k = 0; k < 3; ++k) p.ang[part][k] = guard.ang[part][k];
+  return p;
+}
+
 mot::Pose Mv_VictoryTouch(int character, int which, const mot::Pose& pose) {
   const Manner& m = kManners[Clamp_Character(character)];
   return Add_Turns(pose, m.touch[which == 0 ? 0 : 1], kTouchTurns);

@@ -13,6 +13,9 @@ Move Mv_IdleGuard(int character);
 // A kicking pose with the arms carried the character's way: kept up in its own guard, the
 // rear arm thrown back for balance, dropped low, crossed before the chest, or flung out.
 mot::Pose Mv_KickArms(int character, const mot::Pose& pose);
+// A one-handed blow with the other arm held in the character's own guard (`lead` true when the
+// lead hand strikes, so the rear arm is the free one).
+mot::Pose Mv_FreeArm(int character, const mot::Pose& pose, bool lead);
 // Victory pose `which` (0: action 12, 1: action 13) of a kind's pose, touched in the character's
 // manner (the head, the free hand, the weight).
 mot::Pose Mv_VictoryTouch(int character, int which, const mot::Pose& pose);

@@ -189,6 +189,20 @@ bool Is_Kick(const ArchDef& d) {
   return false;
 }
 
+// One-handed blows: 1 when only the lead hand strikes, 2 when only the rear hand or the weapon
+// in it, 0 otherwise.
+int One_Hand(const ArchDef& d) {
+  bool lead = false, rear = false, other = false;
+  for (int i = 0; i < d.beat_count; ++i) {
+    const Limb l = d.beats[i].limb;
+    if (l == Limb::LeadHand) lead = true;
+    else if (l == Limb::RearHand || l == Limb::Weapon) rear = true;
+    else if (l != Limb::None) other = true;
+  }
+  if (other || lead == rear) return 0;
+  return lead ? 1 : 2;
+}
+
 Move Build_Move(int character, int action, const Style& st, const Row& row) {
   const ArchDef& d = Arch_Def(row.arch);
   const bool blades = row.arch == Arch::Blades || row.arch == Arch::SuperBlades || row.arch == Arch::VictoryBlade;
@@ -197,9 +211,11 @@ Move Build_Move(int character, int action, const Style& st, const Row& row) {
   std::vector<const mot::Pose*> poses;
   const bool victory = row.arch >= Arch::VictoryFist;
   const bool kicking = Is_Kick(d);
+  const int hand = One_Hand(d);
   for (const mot::Pose& p : d.poses) {
     mot::Pose q = victory ? p : Pose_Scale(stance, p, st.power);
     if (kicking) q = Mv_KickArms(character, q);
+    if (hand != 0) q = Mv_FreeArm(character, q, hand == 1);
     poses.push_back(Keep(mirror ? Pose_Mirror(q) : q));
   }
   Move mv;
