@@ -11,6 +11,8 @@
 #include <vector>
 
 #include "figures/fig_figure.h"
+#include "figures/fig_math.h"
+#include "figures/fig_mesh.h"
 #include "figures/fig_paint.h"
 #include "figures/fig_roster.h"
 #include "motion/mot_shared.h"
@@ -207,6 +209,52 @@ TEST(AssetgenFigure, BuildsSetTheFightersApartAndTheBossIsTheLargest) {
   EXPECT_GE(tall, 2);
   EXPECT_GE(slight, 2);
   EXPECT_GE(average, 2);
+}
+
+// The game lays each part's box on the floor as (x, z + (y + 5.8) / 2) and fills the box's six
+// shadow triangles: whichever way a limb lies, they must fill the box's floor outline.
+TEST(AssetgenFigure, ShadowTrianglesFillTheBoxesFloorOutline) {
+  const float sizes[][3] = {{0.5f, 2.0f, 0.5f}, {2.2f, 0.4f, 0.6f}, {0.6f, 0.5f, 1.8f}, {1.0f, 1.1f, 0.9f}};
+  std::uint32_t seed = 12345;
+  auto next = [&] {
+    seed = seed * 1664525u + 1013904223u;
+    return (seed >> 8) / 16777216.0f;
+  };
+  auto side = [](const float* a, const float* b, const float* p) {
+    return (b[0] - a[0]) * (p[1] - a[1]) - (b[1] - a[1]) * (p[0] - a[0]);
+  };
+  float worst = 1;
+  for (const auto& sz : sizes)
+    for (int turn = 0; turn < 40; ++turn) {
+      const fig::Rot r = fig::Then(fig::Then(fig::RotX(next() * 360), fig::RotY(next() * 360)), fig::RotZ(next() * 360));
+      std::int16_t tri[18];
+      Box_Shadow(sz[0], sz[1], sz[2], tri);
+      float floor[8][2];
+      for (int c = 0; c < 8; ++c) {
+        const int ix = (c & 1) ^ ((c >> 1) & 1), iz = (c >> 1) & 1, iy = c >= 4;
+        const fig::Vec3 w = fig::Apply(r, fig::Vec3{ix * sz[0], iy * sz[1], iz * sz[2]});
+        floor[c][0] = w.x;
+        floor[c][1] = w.z + (w.y + 5.8f) / 2;
+      }
+      // Points of the outline (inside every corner's convex hull) against the triangles' union.
+      int inside = 0, covered = 0;
+      for (int k = 0; k < 400; ++k) {
+        float wsum = 0, p[2] = {0, 0}, wts[8];
+        for (float& w : wts) wsum += (w = next());
+        for (int c = 0; c < 8; ++c) p[0] += floor[c][0] * wts[c] / wsum, p[1] += floor[c][1] * wts[c] / wsum;
+        ++inside;
+        for (int t = 0; t < 6; ++t) {
+          const float *a = floor[tri[3 * t]], *b = floor[tri[3 * t + 1]], *c = floor[tri[3 * t + 2]];
+          const float s0 = side(a, b, p), s1 = side(b, c, p), s2 = side(c, a, p);
+          if ((s0 >= 0 && s1 >= 0 && s2 >= 0) || (s0 <= 0 && s1 <= 0 && s2 <= 0)) {
+            ++covered;
+            break;
+          }
+        }
+      }
+      worst = std::min(worst, static_cast<float>(covered) / inside);
+    }
+  EXPECT_GT(worst, 0.97f);
 }
 
 TEST(AssetgenFigure, TexturesArePowerOfTwoAndPalettesDiffer) {

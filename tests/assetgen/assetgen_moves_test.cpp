@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <filesystem>
 #include <set>
@@ -190,6 +191,37 @@ TEST_F(OwnMoves, NoTwoCharactersShareASpecialMove) {
     for (int d = c + 1; d < fig::kCharacters; ++d)
       for (const auto& m : moves[c])
         for (const auto& n : moves[d]) ASSERT_NE(m, n) << "characters " << c << " and " << d;
+}
+
+// The pose a fighter strikes in is its own: at the first striking frame of every special move,
+// the head, trunk and arms of one character stand apart from every other character's.
+TEST_F(OwnMoves, NoTwoCharactersStrikeFromTheSamePose) {
+  constexpr int kParts[] = {2, 3, 5, 6, 11, 12};
+  std::vector<std::vector<std::vector<int>>> strikes(fig::kCharacters);
+  for (int c = 0; c < fig::kCharacters; ++c) {
+    Load_Character(c);
+    const Fighter& f = fighters[0];
+    const int K = f.last_shared_key;
+    for (int a : own_actions(c)) {
+      if (!is_special(a)) continue;
+      for (int fr = f.act_first[a]; fr <= f.act_last[a]; ++fr) {
+        if (f.frame_part[fr] < 2 || f.frame_hit[fr] == 5) continue;
+        std::vector<int> pose;
+        for (int p : kParts)
+          for (int e = 0; e < 9; ++e) pose.push_back(Anim.CharKeys[0][f.frame_key[fr] - K - 1][p - 2][e]);
+        strikes[c].push_back(pose);
+        break;
+      }
+    }
+  }
+  for (int c = 0; c < fig::kCharacters; ++c)
+    for (int d = c + 1; d < fig::kCharacters; ++d)
+      for (const auto& m : strikes[c])
+        for (const auto& n : strikes[d]) {
+          int apart = 0;
+          for (std::size_t i = 0; i < m.size(); ++i) apart += std::abs(m[i] - n[i]);
+          ASSERT_GT(apart, 150) << "characters " << c << " and " << d;
+        }
 }
 
 // The command slots the computer starts from 13 units or more and from 10 or more, by the

@@ -25,40 +25,41 @@ struct Manner {
   int beat;                        // frames from one end of the beat to the middle
   Turn touch[2][kTouchTurns];      // added to every pose of victory 12 and of victory 13
   Carry kicks;                     // the arms while kicking
+  Turn attitude[2];                // the trunk and head in every attack: lean, twist, tilt
 };
 
 // clang-format off
 constexpr Manner kManners[15] = {
     {{{12, 25, 0, 0}, {11, 6, 0, 0}, {5, 18, 0, 0}, {6, -8, 0, 0}, {3, -3, 0, 0}},
-     4, 3, 22, {{{2, -6, 0, 0}, {4, 0, -6, 0}}, {{3, 4, 0, 0}, {2, 4, 0, 0}}}, Carry::Guard},                    // 0: karate, lead fist out, rear fist chambered
+     4, 3, 22, {{{2, -6, 0, 0}, {4, 0, -6, 0}}, {{3, 4, 0, 0}, {2, 4, 0, 0}}}, Carry::Guard, {{3, 4, 0, 0}, {2, -4, 0, 0}}},                    // 0: karate, lead fist out, rear fist chambered
     {{{11, 12, 0, -4}, {12, 10, 0, 0}, {5, 14, 0, 4}, {6, 12, 0, 0}, {2, 0, 0, 8}, {3, -4, 0, 0}},
-     9, 2, 11, {{{2, 0, 0, 10}, {4, 0, -15, 0}, {14, -10, 0, -6}}, {{2, 6, 0, -8}, {3, 0, 10, 0}}}, Carry::Balance},  // 1: light on her toes, hands low and loose
+     9, 2, 11, {{{2, 0, 0, 10}, {4, 0, -15, 0}, {14, -10, 0, -6}}, {{2, 6, 0, -8}, {3, 0, 10, 0}}}, Carry::Balance, {{3, -6, 0, 4}, {2, 0, 0, 10}}},  // 1: light on her toes, hands low and loose
     {{{11, -14, 0, 0}, {12, 38, 0, 0}, {13, -20, 0, 0}, {5, -6, 0, 0}, {6, 8, 0, 0}, {3, -6, 0, 0}, {2, -6, 0, 0}},
-     3, 3, 26, {{{2, -10, 10, 0}, {3, -4, 0, 0}}, {{2, 14, 0, 0}, {4, 0, 10, 0}}}, Carry::Low},                  // 2: tall and still, open lead hand held high
+     3, 3, 26, {{{2, -10, 10, 0}, {3, -4, 0, 0}}, {{2, 14, 0, 0}, {4, 0, 10, 0}}}, Carry::Low, {{3, -8, 6, 0}, {2, -8, 0, 0}}},                  // 2: tall and still, open lead hand held high
     {{{11, 16, 0, -6}, {12, 14, 0, 0}, {5, 12, 0, 6}, {3, -2, 10, 0}, {15, 8, 0, 0}, {14, -6, 0, 0}, {2, 0, 8, 0}},
-     6, 2, 16, {{{4, 0, 12, 0}, {2, -4, -10, 0}}, {{2, -8, 0, 6}, {14, -8, 0, -4}}}, Carry::Flung},                // 3: hands low, weight back for the kicks
+     6, 2, 16, {{{4, 0, 12, 0}, {2, -4, -10, 0}}, {{2, -8, 0, 6}, {14, -8, 0, -4}}}, Carry::Flung, {{3, -4, 10, 0}, {2, 0, 10, 0}}},                // 3: hands low, weight back for the kicks
     {{{3, 12, 0, 0}, {2, 10, 0, 0}, {11, -8, 0, 4}, {12, -16, 0, 0}, {5, -14, 0, -6}, {6, -6, 0, 0}, {9, 8, 0, 0}, {15, 8, 0, 0}},
-     5, 4, 26, {{{3, 6, 0, 0}, {2, -10, 0, 0}}, {{4, 0, -10, 0}, {2, -14, 10, 0}}}, Carry::Guard},                 // 4: hunched brawler, fists tight by the face
+     5, 4, 26, {{{3, 6, 0, 0}, {2, -10, 0, 0}}, {{4, 0, -10, 0}, {2, -14, 10, 0}}}, Carry::Guard, {{3, 14, 0, 0}, {2, 12, 0, 0}}},                 // 4: hunched brawler, fists tight by the face
     {{{5, -34, 0, 10}, {6, 24, 0, 0}, {12, 30, 0, 0}, {11, -6, 0, 0}, {2, 0, 0, -10}, {3, -4, 0, 0}},
-     8, 2, 12, {{{2, 0, 0, -12}, {14, -12, 0, -4}}, {{2, 8, 0, 10}, {4, 0, 14, 0}}}, Carry::Balance},                // 5: fan raised, lead hand open, bobbing
+     8, 2, 12, {{{2, 0, 0, -12}, {14, -12, 0, -4}}, {{2, 8, 0, 10}, {4, 0, 14, 0}}}, Carry::Balance, {{3, -2, -8, -4}, {2, 4, 0, -12}}},                // 5: fan raised, lead hand open, bobbing
     {{{11, 20, 0, -4}, {12, 44, 0, 0}, {5, -18, 0, 0}, {6, -14, 0, 0}, {3, -8, 0, 0}, {2, -8, 0, 0}},
-     2, 2, 28, {{{2, -8, -10, 0}, {3, -6, 0, 0}}, {{2, 10, 0, 0}, {4, 0, -8, 0}}}, Carry::Low},                  // 6: upright and idle-handed, the cards by his face
+     2, 2, 28, {{{2, -8, -10, 0}, {3, -6, 0, 0}}, {{2, 10, 0, 0}, {4, 0, -8, 0}}}, Carry::Low, {{3, -10, -6, 0}, {2, -10, -8, 0}}},                  // 6: upright and idle-handed, the cards by his face
     {{{11, -20, 0, 0}, {12, 42, 0, 0}, {13, -25, 0, 0}, {5, -8, 0, 0}, {9, 10, 0, 0}, {15, 10, 0, 0}, {14, -5, 0, 0}, {8, -5, 0, 0}},
-     4, 3, 20, {{{9, 20, 0, 0}, {15, 20, 0, 0}, {8, -10, 0, 0}, {14, -10, 0, 0}}, {{2, -6, 14, 0}, {4, 0, 8, 0}}}, Carry::Balance},  // 7: low, lead palm reaching
+     4, 3, 20, {{{9, 20, 0, 0}, {15, 20, 0, 0}, {8, -10, 0, 0}, {14, -10, 0, 0}}, {{2, -6, 14, 0}, {4, 0, 8, 0}}}, Carry::Balance, {{3, 8, 8, 0}, {2, 4, -6, 0}}},  // 7: low, lead palm reaching
     {{{11, 0, 0, -12}, {5, 0, 0, 12}, {2, 4, 14, 0}, {3, -6, -4, 0}, {12, -10, 0, 0}, {6, 8, 0, 0}},
-     2, 1, 30, {{{2, 0, 20, 0}, {3, 0, -6, 0}}, {{2, -12, 0, 0}, {3, -6, 0, 0}}}, Carry::Crossed},                   // 8: square and rigid, arms out from the plating
+     2, 1, 30, {{{2, 0, 20, 0}, {3, 0, -6, 0}}, {{2, -12, 0, 0}, {3, -6, 0, 0}}}, Carry::Crossed, {{3, 0, -10, 0}, {2, 0, 16, 0}}},                   // 8: square and rigid, arms out from the plating
     {{{3, 12, 0, 0}, {2, 6, 0, 0}, {5, -26, 0, 0}, {6, 28, 0, 0}, {11, 6, 0, 0}, {12, -18, 0, 0}, {9, 6, 0, 0}, {15, 6, 0, 0}},
-     5, 2, 15, {{{2, 10, -14, 0}, {3, 6, 0, 0}}, {{4, 0, 16, 0}, {2, -6, -16, 0}}}, Carry::Guard},                 // 9: crouched forward, the knife out low
+     5, 2, 15, {{{2, 10, -14, 0}, {3, 6, 0, 0}}, {{4, 0, 16, 0}, {2, -6, -16, 0}}}, Carry::Guard, {{3, 16, -4, 0}, {2, 8, 0, 6}}},                 // 9: crouched forward, the knife out low
     {{{12, -18, 0, 0}, {11, -6, 0, 0}, {6, -4, 0, 0}, {5, -12, 0, 0}, {3, -4, 0, 0}, {2, 4, 0, 0}},
-     7, 2, 13, {{{2, 0, 0, 8}, {4, 0, -10, 0}}, {{14, -14, 0, -6}, {2, -6, 0, 0}}}, Carry::Balance},                 // 10: compact, both hands high
+     7, 2, 13, {{{2, 0, 0, 8}, {4, 0, -10, 0}}, {{14, -14, 0, -6}, {2, -6, 0, 0}}}, Carry::Balance, {{3, 6, 12, 0}, {2, -4, 6, 8}}},                 // 10: compact, both hands high
     {{{11, -22, 0, 0}, {12, 40, 0, 0}, {13, -30, 0, 0}, {5, 20, 0, -8}, {6, 24, 0, 0}, {3, -6, 0, 0}, {9, 6, 0, 0}, {15, 6, 0, 0}},
-     3, 5, 30, {{{3, 8, 0, 0}, {2, 10, 0, 0}}, {{2, -8, 0, 0}, {4, 0, -12, 0}}}, Carry::Crossed},                    // 11: calm, lead palm forward, deep breaths
+     3, 5, 30, {{{3, 8, 0, 0}, {2, 10, 0, 0}}, {{2, -8, 0, 0}, {4, 0, -12, 0}}}, Carry::Crossed, {{3, -4, -12, 0}, {2, 6, 0, 0}}},                    // 11: calm, lead palm forward, deep breaths
     {{{11, 14, 0, -16}, {5, 14, 0, 16}, {12, 20, 0, 0}, {6, 20, 0, 0}, {3, -8, 0, 0}, {2, -6, 0, 6}},
-     10, 2, 10, {{{2, -6, 0, 12}, {4, 0, 18, 0}}, {{14, -16, 0, -8}, {3, -8, 0, 0}}}, Carry::Balance},               // 12: springing, arms loose and wide
+     10, 2, 10, {{{2, -6, 0, 12}, {4, 0, 18, 0}}, {{14, -16, 0, -8}, {3, -8, 0, 0}}}, Carry::Balance, {{3, -12, 4, 6}, {2, -6, 0, -8}}},               // 12: springing, arms loose and wide
     {{{5, -48, 0, 6}, {6, -8, 0, 0}, {11, -10, 0, 0}, {12, 22, 0, 0}, {9, 10, 0, 0}, {15, 10, 0, 0}, {8, -4, 0, 6}, {14, -4, 0, -6}},
-     4, 4, 24, {{{2, -12, 0, 0}, {3, -6, 0, 0}}, {{4, 0, -12, 0}, {2, -4, 14, 0}}}, Carry::Guard},                 // 13: the axe over his shoulder, buckler forward
+     4, 4, 24, {{{2, -12, 0, 0}, {3, -6, 0, 0}}, {{4, 0, -12, 0}, {2, -4, 14, 0}}}, Carry::Guard, {{3, 10, -8, 0}, {2, -6, 8, 0}}},                 // 13: the axe over his shoulder, buckler forward
     {{{11, 16, 0, -6}, {12, 34, 0, 0}, {5, 18, 0, 6}, {6, 34, 0, 0}, {3, -6, 0, 0}, {2, 10, 0, 0}},
-     3, 4, 30, {{{2, -16, 0, 0}, {3, -8, 0, 0}}, {{2, 12, -10, 0}, {4, 0, 8, 0}}}, Carry::Guard},                  // 14: looming, arms low and open
+     3, 4, 30, {{{2, -16, 0, 0}, {3, -8, 0, 0}}, {{2, 12, -10, 0}, {4, 0, 8, 0}}}, Carry::Guard, {{3, -6, 0, -6}, {2, 12, 0, 0}}},                  // 14: looming, arms low and open
 };
 // clang-format on
 
@@ -151,6 +152,11 @@ mot::Pose Mv_KickArms(int character, const mot::Pose& pose) {
     case Carry::Flung: break;
   }
   return p;
+}
+
+mot::Pose Mv_Attitude(int character, const mot::Pose& pose) {
+  const Manner& m = kManners[Clamp_Character(character)];
+  return Add_Turns(pose, m.attitude, 2);
 }
 
 mot::Pose Mv_FreeArm(int character, const mot::Pose& pose, bool lead) {

@@ -13,6 +13,8 @@ Move Mv_IdleGuard(int character);
 // A kicking pose with the arms carried the character's way: kept up in its own guard, the
 // rear arm thrown back for balance, dropped low, crossed before the chest, or flung out.
 mot::Pose Mv_KickArms(int character, const mot::Pose& pose);
+// An attacking pose with the trunk and head carried the character's way.
+mot::Pose Mv_Attitude(int character, const mot::Pose& pose);
 // A one-handed blow with the other arm held in the character's own guard (`lead` true when the
 // lead hand strikes, so the rear arm is the free one).
 mot::Pose Mv_FreeArm(int character, const mot::Pose& pose, bool lead);

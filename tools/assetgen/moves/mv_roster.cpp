@@ -216,6 +216,7 @@ Move Build_Move(int character, int action, const Style& st, const Row& row) {
     mot::Pose q = victory ? p : Pose_Scale(stance, p, st.power);
     if (kicking) q = Mv_KickArms(character, q);
     if (hand != 0) q = Mv_FreeArm(character, q, hand == 1);
+    if (!victory) q = Mv_Attitude(character, q);
     poses.push_back(Keep(mirror ? Pose_Mirror(q) : q));
   }
   Move mv;
