@@ -224,6 +224,37 @@ TEST_F(OwnMoves, NoTwoCharactersStrikeFromTheSamePose) {
         }
 }
 
+// Each character waits in its own guard (its own frames, not the shared idle) and wins in two
+// poses of its own: the guards, and the held last frames of victories 12 and 13, all differ.
+TEST_F(OwnMoves, EveryCharacterHasItsOwnGuardAndVictoryPoses) {
+  auto pose_at = [](int fr) {
+    const Fighter& f = fighters[0];
+    std::vector<int> pose;
+    for (int p = 2; p <= 16; ++p)
+      for (int e = 0; e < 9; ++e) pose.push_back(Anim.CharKeys[0][f.frame_key[fr] - f.last_shared_key - 1][p - 2][e]);
+    return pose;
+  };
+  auto apart = [](const std::vector<int>& a, const std::vector<int>& b) {
+    int sum = 0;
+    for (std::size_t i = 0; i < a.size(); ++i) sum += std::abs(a[i] - b[i]);
+    return sum;
+  };
+  std::vector<std::vector<int>> guards, wins;
+  for (int c = 0; c < fig::kCharacters; ++c) {
+    Load_Character(c);
+    const Fighter& f = fighters[0];
+    for (int a : {0, 12, 13}) ASSERT_GT(f.frame_key[f.act_first[a]], f.last_shared_key) << "character " << c << " action " << a;
+    guards.push_back(pose_at(f.act_first[0]));
+    wins.push_back(pose_at(f.act_last[12]));
+    wins.push_back(pose_at(f.act_last[13]));
+  }
+  for (std::size_t i = 0; i < guards.size(); ++i)
+    for (std::size_t j = i + 1; j < guards.size(); ++j) EXPECT_GT(apart(guards[i], guards[j]), 100) << i << " " << j;
+  for (std::size_t i = 0; i < wins.size(); ++i)
+    for (std::size_t j = i + 1; j < wins.size(); ++j)
+      EXPECT_GT(apart(wins[i], wins[j]), 150) << "characters " << i / 2 << " and " << j / 2;
+}
+
 // The command slots the computer starts from 13 units or more and from 10 or more, by the
 // characters its routines play (slot = 4 x command + 2 for buttons 3/4 + 1 for buttons 1/3).
 struct FarUse {
