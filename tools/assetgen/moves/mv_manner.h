@@ -1,5 +1,6 @@
-// A character's manner: the guard it waits in between moves and the touches that make its
-// victory poses its own. Both are turns added to poses every character shares.
+// A character's manner: the guard it waits in between moves, how it carries itself in its
+// attacks, and the touches that make its victory poses its own. All are turns added to poses
+// every character shares.
 #pragma once
 #include "motion/mot_motion.h"
 #include "moves/mv_roster.h"
