@@ -105,10 +105,10 @@ std::vector<Pose> Grab_Poses(const Pose& s) {
 }
 
 std::vector<Pose> Charge_Poses(const Pose& s) {
-  // Low behind the lead shoulder, the lead forearm raised across the chest as a ram and the rear
-  // hand braced behind it; the head tucked in.
-  const Pose load = Pose_With(s, {{4, 5, -50, 0}, {3, 20, -30, 0}, {2, 8, 40, 0}, {5, -62, -30, 0}, {6, -105, 0, 0},
-                                  {11, -72, 40, 0}, {12, -112, 0, 0}, {13, 0, 0, 0}, {15, 45, 0, 0}, {9, 45, 0, 0}},
+  // Turned to drive the rear shoulder in, low behind it: the rear forearm raised across the chest
+  // as a ram, the lead hand braced against it, the head tucked in.
+  const Pose load = Pose_With(s, {{4, 5, -50, 0}, {3, 20, -30, 0}, {2, 8, 40, 0}, {5, -72, -40, 0}, {6, -112, 0, 0},
+                                  {7, 0, 0, 0}, {11, -62, 30, 0}, {12, -105, 0, 0}, {15, 45, 0, 0}, {9, 45, 0, 0}},
                               {0, -0.4f, 0});
   const Pose hit = Pose_With(load, {{4, 15, -70, 0}, {3, 25, -20, 0}, {14, -60, -8, -4}, {15, 60, 0, 0},
                                     {8, 30, -6, 6}, {9, 5, 0, 0}});
