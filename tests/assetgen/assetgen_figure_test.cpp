@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <set>
@@ -255,6 +257,42 @@ TEST(AssetgenFigure, ShadowTrianglesFillTheBoxesFloorOutline) {
       worst = std::min(worst, static_cast<float>(covered) / inside);
     }
   EXPECT_GT(worst, 0.97f);
+}
+
+// The face picture wraps the whole head: wherever the hair covers it (the crown, the back of the
+// head) it carries the hair's colour, so no scalp shows between the hair and the skin; a bald
+// head is skin all over, and the face below the hairline stays skin.
+TEST(AssetgenFigure, HairColoursTheScalpUnderIt) {
+  auto texel = [](const Image& img, float u, float t) {
+    const int x = static_cast<int>(u / 255.0f * img.width) % img.width;
+    const int y = std::clamp(static_cast<int>(Face_V(t) / 255.0f * img.height), 0, img.height - 1);
+    const std::uint8_t* p = &img.rgb[(static_cast<std::size_t>(y) * img.width + x) * 3];
+    return std::array<int, 3>{p[0], p[1], p[2]};
+  };
+  auto nearer = [](const std::array<int, 3>& px, std::uint32_t a, std::uint32_t b) {
+    int da = 0, db = 0;
+    for (int k = 0; k < 3; ++k) {
+      const int ca = (a >> (16 - 8 * k)) & 255, cb = (b >> (16 - 8 * k)) & 255;
+      da += std::abs(px[k] - ca), db += std::abs(px[k] - cb);
+    }
+    return da < db;
+  };
+  for (int c = 0; c < kCharacters; ++c) {
+    const Look& lk = Fig_Look(c);
+    if (lk.hair == Hair::Helmet) continue;
+    for (int colouring = 0; colouring < 2; ++colouring) {
+      Image img;
+      Fig_PaintFace(c, Expression::Calm, img, colouring);
+      const std::uint32_t hair = lk.colours[colouring].hair;
+      const bool bald = lk.hair == Hair::Bald;
+      int contrast = 0;  // fair hair close to the skin's colour tells nothing apart
+      for (int k = 0; k < 3; ++k) contrast += std::abs(int((hair >> (8 * k)) & 255) - int((lk.skin >> (8 * k)) & 255));
+      if (contrast < 120) continue;
+      for (float u : {0.0f, 64.0f, 192.0f})  // the back and both sides of the crown
+        EXPECT_EQ(nearer(texel(img, u, 0.88f), hair, lk.skin), !bald) << lk.name << " u " << u;
+      EXPECT_TRUE(nearer(texel(img, 128, 0.45f), lk.skin, hair)) << lk.name << " cheek between the eyes";
+    }
+  }
 }
 
 TEST(AssetgenFigure, TexturesArePowerOfTwoAndPalettesDiffer) {
