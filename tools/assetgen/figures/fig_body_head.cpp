@@ -79,16 +79,7 @@ void Body_Nose(Model& m, const Look& lk) {
   const int left = Mesh_Vertex(m, at(0.39f, 104, 0.04f), uv(104), Face_V(0.39f), P_HEAD);
   const int base = Mesh_Vertex(m, at(0.36f, 90, 0.06f), uv(90), Face_V(0.36f), P_HEAD);
   const Vec3 inside{0, Head_Chin(lk) + 0.45f * lk.head_h, 0.0f};
-  auto add = [&](int a, int b, int c) {
-    const Vertex& A = m.vertices[a];
-    const Vertex& B = m.vertices[b];
-    const Vertex& C = m.vertices[c];
-    Vec3 pa{A.x, A.y, A.z}, pb{B.x, B.y, B.z}, pc{C.x, C.y, C.z};
-    if (Dot(Cross(pb - pa, pc - pa), (pa + pb + pc) * (1.0f / 3.0f) - inside) < 0)
-      Mesh_Face(m, a, c, b, R_FACE);
-    else
-      Mesh_Face(m, a, b, c, R_FACE);
-  };
+  auto add = [&](int a, int b, int c) { Mesh_FaceOutward(m, a, b, c, R_FACE, inside); };
   add(bridge, right, tip);
   add(bridge, tip, left);
   add(right, base, tip);
@@ -211,15 +202,7 @@ void Body_Hair(Model& m, const Look& lk, const BodyFrame&) {
     int c = Mesh_Vertex(m, base - side * sz - up * (sz * 0.5f), 90, 200, P_HEAD);
     int tip = Mesh_Vertex(m, base + out * 0.42f, 60, 20, P_HEAD);
     Vec3 in = base - out * 0.2f;
-    auto add = [&](int p, int q, int r) {
-      Vec3 pp{m.vertices[p].x, m.vertices[p].y, m.vertices[p].z};
-      Vec3 pq{m.vertices[q].x, m.vertices[q].y, m.vertices[q].z};
-      Vec3 pr{m.vertices[r].x, m.vertices[r].y, m.vertices[r].z};
-      if (Dot(Cross(pq - pp, pr - pp), (pp + pq + pr) * (1.0f / 3.0f) - in) < 0)
-        Mesh_Face(m, p, r, q, R_HAIR);
-      else
-        Mesh_Face(m, p, q, r, R_HAIR);
-    };
+    auto add = [&](int p, int q, int r) { Mesh_FaceOutward(m, p, q, r, R_HAIR, in); };
     add(a, b, tip);
     add(b, c, tip);
     add(c, a, tip);

@@ -19,18 +19,6 @@ Vec3 Ring_Point(const Ring& r, float theta) {
   return r.centre + r.side * (Spow(c, r.square) * r.rx * rad) + r.fwd * (Spow(s, r.square) * r.rz * rad);
 }
 
-// Adds a face whose normal points away from `inside`, swapping two corners if needed.
-bool Face_Outward(Model& m, int a, int b, int c, int tex, Vec3 inside) {
-  const Vertex& A = m.vertices[a];
-  const Vertex& B = m.vertices[b];
-  const Vertex& C = m.vertices[c];
-  Vec3 pa{A.x, A.y, A.z}, pb{B.x, B.y, B.z}, pc{C.x, C.y, C.z};
-  Vec3 n = Cross(pb - pa, pc - pa);
-  Vec3 mid = (pa + pb + pc) * (1.0f / 3.0f);
-  if (Dot(n, mid - inside) < 0) return Mesh_Face(m, a, c, b, tex);
-  return Mesh_Face(m, a, b, c, tex);
-}
-
 }  // namespace
 
 int Mesh_Vertex(Model& m, Vec3 p, float u, float v, int part) {
@@ -64,6 +52,17 @@ bool Mesh_Quad(Model& m, int a, int b, int c, int d, int tex) {
   return Mesh_Face(m, a, b, c, tex) && Mesh_Face(m, a, c, d, tex);
 }
 
+bool Mesh_FaceOutward(Model& m, int a, int b, int c, int tex, Vec3 inside) {
+  const Vertex& A = m.vertices[a];
+  const Vertex& B = m.vertices[b];
+  const Vertex& C = m.vertices[c];
+  Vec3 pa{A.x, A.y, A.z}, pb{B.x, B.y, B.z}, pc{C.x, C.y, C.z};
+  Vec3 n = Cross(pb - pa, pc - pa);
+  Vec3 mid = (pa + pb + pc) * (1.0f / 3.0f);
+  if (Dot(n, mid - inside) < 0) return Mesh_Face(m, a, c, b, tex);
+  return Mesh_Face(m, a, b, c, tex);
+}
+
 bool Mesh_Loft(Model& m, const Loft& lf, const Ring* rings, int ring_count) {
   int cols = lf.sides + 1;
   int need_v = cols * ring_count + (lf.cap_first ? 1 : 0) + (lf.cap_last ? 1 : 0);
@@ -86,8 +85,8 @@ bool Mesh_Loft(Model& m, const Loft& lf, const Ring* rings, int ring_count) {
     Vec3 inside = (rings[i].centre + rings[i + 1].centre) * 0.5f;
     for (int j = 0; j < lf.sides; ++j) {
       int a = first + i * cols + j, b = a + 1, c = a + cols + 1, d = a + cols;
-      Face_Outward(m, a, b, c, lf.tex, inside);
-      Face_Outward(m, a, c, d, lf.tex, inside);
+      Mesh_FaceOutward(m, a, b, c, lf.tex, inside);
+      Mesh_FaceOutward(m, a, c, d, lf.tex, inside);
     }
   }
   for (int end = 0; end < 2; ++end) {
@@ -101,7 +100,7 @@ bool Mesh_Loft(Model& m, const Loft& lf, const Ring* rings, int ring_count) {
     Vec3 inside = rings[ri].centre - Normalise(axis);
     for (int j = 0; j < lf.sides; ++j) {
       int a = first + ri * cols + j;
-      Face_Outward(m, centre, a, a + 1, lf.tex, inside);
+      Mesh_FaceOutward(m, centre, a, a + 1, lf.tex, inside);
     }
   }
   return true;

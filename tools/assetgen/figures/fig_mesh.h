@@ -32,6 +32,8 @@ struct Loft {
 bool Mesh_Loft(Model& m, const Loft& loft, const Ring* rings, int ring_count);
 int Mesh_Vertex(Model& m, Vec3 p, float u, float v, int part);  // 0 when full
 bool Mesh_Face(Model& m, int a, int b, int c, int tex);
+// A face whose normal points away from `inside`, two corners swapped if needed.
+bool Mesh_FaceOutward(Model& m, int a, int b, int c, int tex, Vec3 inside);
 // A flat quad strip a b c d (counter-clockwise seen from the front) made two triangles.
 bool Mesh_Quad(Model& m, int a, int b, int c, int d, int tex);
 
