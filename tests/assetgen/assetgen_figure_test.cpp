@@ -2,7 +2,10 @@
 // the character table expects, and geometry the fight depends on.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <set>
@@ -10,6 +13,8 @@
 #include <vector>
 
 #include "figures/fig_figure.h"
+#include "figures/fig_math.h"
+#include "figures/fig_mesh.h"
 #include "figures/fig_paint.h"
 #include "figures/fig_roster.h"
 #include "motion/mot_shared.h"
@@ -166,11 +171,127 @@ TEST(AssetgenFigure, FigureSpansTheModelSpaceTheGameExpects) {
         lo = std::min(lo, m.vertices[i].y);
         hi = std::max(hi, m.vertices[i].y);
       }
-    EXPECT_NEAR(hi, 0.8f, 0.5f) << Fig_Look(c).name;
+    // Slight and tall builds stand lower and higher; the boss stands above them all.
+    EXPECT_NEAR(hi, c == 14 ? 2.3f : 0.8f, 0.7f) << Fig_Look(c).name;
     // Soles a little below the foot's centre, which the stance puts at the character's foot height.
     float foot = Fig_FootHeight(c) - kStandingY - Fig_StandingOffset(c);
     EXPECT_NEAR(lo, foot - 0.35f, 0.6f) << Fig_Look(c).name;
     EXPECT_NEAR(foot, -8.5f, 1.1f) << Fig_Look(c).name;
+  }
+}
+
+// Crown-to-sole height and the breadth of the chest piece of a character's mesh.
+void Measure(int c, float* height, float* breadth) {
+  const Model& m = *Row(c).model;
+  float lo = 1e9f, hi = -1e9f, left = 1e9f, right = -1e9f;
+  for (int i = 1; i <= m.vertex_count; ++i) {
+    const Vertex& v = m.vertices[i];
+    if (v.part > 21) continue;
+    lo = std::min(lo, v.y), hi = std::max(hi, v.y);
+    if (v.part == P_CHEST) left = std::min(left, v.x), right = std::max(right, v.x);
+  }
+  *height = hi - lo;
+  *breadth = right - left;
+}
+
+TEST(AssetgenFigure, BuildsSetTheFightersApartAndTheBossIsTheLargest) {
+  float height[kCharacters], breadth[kCharacters];
+  for (int c = 0; c < kCharacters; ++c) Measure(c, &height[c], &breadth[c]);
+  const float h0 = height[0], b0 = breadth[0];
+  int heavy = 0, tall = 0, slight = 0, average = 0;
+  for (int c = 0; c < 14; ++c) {
+    EXPECT_GT(height[14], height[c] + 0.3f) << Fig_Look(c).name;
+    EXPECT_GT(breadth[14], breadth[c]) << Fig_Look(c).name;
+    if (breadth[c] >= 1.15f * b0) ++heavy;
+    else if (height[c] >= h0 + 0.3f) ++tall;
+    else if (height[c] <= h0 - 0.2f && breadth[c] <= 0.9f * b0) ++slight;
+    else if (std::fabs(height[c] - h0) < 0.2f) ++average;
+  }
+  EXPECT_GE(heavy, 2);
+  EXPECT_GE(tall, 2);
+  EXPECT_GE(slight, 2);
+  EXPECT_GE(average, 2);
+}
+
+// The game lays each part's box on the floor as (x, z + (y + 5.8) / 2) and fills the box's six
+// shadow triangles: whichever way a limb lies, they must fill the box's floor outline.
+TEST(AssetgenFigure, ShadowTrianglesFillTheBoxesFloorOutline) {
+  const float sizes[][3] = {{0.5f, 2.0f, 0.5f}, {2.2f, 0.4f, 0.6f}, {0.6f, 0.5f, 1.8f}, {1.0f, 1.1f, 0.9f}};
+  std::uint32_t seed = 12345;
+  auto next = [&] {
+    seed = seed * 1664525u + 1013904223u;
+    return (seed >> 8) / 16777216.0f;
+  };
+  auto side = [](const float* a, const float* b, const float* p) {
+    return (b[0] - a[0]) * (p[1] - a[1]) - (b[1] - a[1]) * (p[0] - a[0]);
+  };
+  float worst = 1;
+  for (const auto& sz : sizes)
+    for (int turn = 0; turn < 40; ++turn) {
+      const fig::Rot r = fig::Then(fig::Then(fig::RotX(next() * 360), fig::RotY(next() * 360)), fig::RotZ(next() * 360));
+      std::int16_t tri[18];
+      Box_Shadow(sz[0], sz[1], sz[2], tri);
+      float floor[8][2];
+      for (int c = 0; c < 8; ++c) {
+        const int ix = (c & 1) ^ ((c >> 1) & 1), iz = (c >> 1) & 1, iy = c >= 4;
+        const fig::Vec3 w = fig::Apply(r, fig::Vec3{ix * sz[0], iy * sz[1], iz * sz[2]});
+        floor[c][0] = w.x;
+        floor[c][1] = w.z + (w.y + 5.8f) / 2;
+      }
+      // Points of the outline (inside every corner's convex hull) against the triangles' union.
+      int inside = 0, covered = 0;
+      for (int k = 0; k < 400; ++k) {
+        float wsum = 0, p[2] = {0, 0}, wts[8];
+        for (float& w : wts) wsum += (w = next());
+        for (int c = 0; c < 8; ++c) p[0] += floor[c][0] * wts[c] / wsum, p[1] += floor[c][1] * wts[c] / wsum;
+        ++inside;
+        for (int t = 0; t < 6; ++t) {
+          const float *a = floor[tri[3 * t]], *b = floor[tri[3 * t + 1]], *c = floor[tri[3 * t + 2]];
+          const float s0 = side(a, b, p), s1 = side(b, c, p), s2 = side(c, a, p);
+          if ((s0 >= 0 && s1 >= 0 && s2 >= 0) || (s0 <= 0 && s1 <= 0 && s2 <= 0)) {
+            ++covered;
+            break;
+          }
+        }
+      }
+      worst = std::min(worst, static_cast<float>(covered) / inside);
+    }
+  EXPECT_GT(worst, 0.97f);
+}
+
+// The face picture wraps the whole head: wherever the hair covers it (the crown, the back of the
+// head) it carries the hair's colour, so no scalp shows between the hair and the skin; a bald
+// head is skin all over, and the face below the hairline stays skin.
+TEST(AssetgenFigure, HairColoursTheScalpUnderIt) {
+  auto texel = [](const Image& img, float u, float t) {
+    const int x = static_cast<int>(u / 255.0f * img.width) % img.width;
+    const int y = std::clamp(static_cast<int>(Face_V(t) / 255.0f * img.height), 0, img.height - 1);
+    const std::uint8_t* p = &img.rgb[(static_cast<std::size_t>(y) * img.width + x) * 3];
+    return std::array<int, 3>{p[0], p[1], p[2]};
+  };
+  auto nearer = [](const std::array<int, 3>& px, std::uint32_t a, std::uint32_t b) {
+    int da = 0, db = 0;
+    for (int k = 0; k < 3; ++k) {
+      const int ca = (a >> (16 - 8 * k)) & 255, cb = (b >> (16 - 8 * k)) & 255;
+      da += std::abs(px[k] - ca), db += std::abs(px[k] - cb);
+    }
+    return da < db;
+  };
+  for (int c = 0; c < kCharacters; ++c) {
+    const Look& lk = Fig_Look(c);
+    if (lk.hair == Hair::Helmet) continue;
+    for (int colouring = 0; colouring < 2; ++colouring) {
+      Image img;
+      Fig_PaintFace(c, Expression::Calm, img, colouring);
+      const std::uint32_t hair = lk.colours[colouring].hair;
+      const bool bald = lk.hair == Hair::Bald;
+      int contrast = 0;  // fair hair close to the skin's colour tells nothing apart
+      for (int k = 0; k < 3; ++k) contrast += std::abs(int((hair >> (8 * k)) & 255) - int((lk.skin >> (8 * k)) & 255));
+      if (contrast < 120) continue;
+      for (float u : {0.0f, 64.0f, 192.0f})  // the back and both sides of the crown
+        EXPECT_EQ(nearer(texel(img, u, 0.88f), hair, lk.skin), !bald) << lk.name << " u " << u;
+      EXPECT_TRUE(nearer(texel(img, 128, 0.45f), lk.skin, hair)) << lk.name << " cheek between the eyes";
+    }
   }
 }
 

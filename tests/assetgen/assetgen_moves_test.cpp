@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <filesystem>
 #include <set>
@@ -190,6 +191,61 @@ TEST_F(OwnMoves, NoTwoCharactersShareASpecialMove) {
     for (int d = c + 1; d < fig::kCharacters; ++d)
       for (const auto& m : moves[c])
         for (const auto& n : moves[d]) ASSERT_NE(m, n) << "characters " << c << " and " << d;
+}
+
+// Rotation entries of fighter 0's own key frame at `frame`, for parts first..last.
+std::vector<int> Own_Turns(int frame, int first, int last) {
+  const Fighter& f = fighters[0];
+  std::vector<int> turns;
+  for (int p = first; p <= last; ++p)
+    for (int e = 0; e < 9; ++e) turns.push_back(Anim.CharKeys[0][f.frame_key[frame] - f.last_shared_key - 1][p - 2][e]);
+  return turns;
+}
+int Apart(const std::vector<int>& a, const std::vector<int>& b) {
+  int sum = 0;
+  for (std::size_t i = 0; i < a.size(); ++i) sum += std::abs(a[i] - b[i]);
+  return sum;
+}
+
+// The pose a fighter strikes in is its own: at the first striking frame of every special move,
+// the head, trunk and arms of one character stand apart from every other character's.
+TEST_F(OwnMoves, NoTwoCharactersStrikeFromTheSamePose) {
+  std::vector<std::vector<std::vector<int>>> strikes(fig::kCharacters);
+  for (int c = 0; c < fig::kCharacters; ++c) {
+    Load_Character(c);
+    const Fighter& f = fighters[0];
+    for (int a : own_actions(c)) {
+      if (!is_special(a)) continue;
+      for (int fr = f.act_first[a]; fr <= f.act_last[a]; ++fr) {
+        if (f.frame_part[fr] < 2 || f.frame_hit[fr] == 5) continue;
+        strikes[c].push_back(Own_Turns(fr, 2, 13));  // head, trunk, both arms
+        break;
+      }
+    }
+  }
+  for (int c = 0; c < fig::kCharacters; ++c)
+    for (int d = c + 1; d < fig::kCharacters; ++d)
+      for (const auto& m : strikes[c])
+        for (const auto& n : strikes[d]) ASSERT_GT(Apart(m, n), 150) << "characters " << c << " and " << d;
+}
+
+// Each character waits in its own guard (its own frames, not the shared idle) and wins in two
+// poses of its own: the guards, and the held last frames of victories 12 and 13, all differ.
+TEST_F(OwnMoves, EveryCharacterHasItsOwnGuardAndVictoryPoses) {
+  std::vector<std::vector<int>> guards, wins;
+  for (int c = 0; c < fig::kCharacters; ++c) {
+    Load_Character(c);
+    const Fighter& f = fighters[0];
+    for (int a : {0, 12, 13}) ASSERT_GT(f.frame_key[f.act_first[a]], f.last_shared_key) << "character " << c << " action " << a;
+    guards.push_back(Own_Turns(f.act_first[0], 2, 16));
+    wins.push_back(Own_Turns(f.act_last[12], 2, 16));
+    wins.push_back(Own_Turns(f.act_last[13], 2, 16));
+  }
+  for (std::size_t i = 0; i < guards.size(); ++i)
+    for (std::size_t j = i + 1; j < guards.size(); ++j) EXPECT_GT(Apart(guards[i], guards[j]), 100) << i << " " << j;
+  for (std::size_t i = 0; i < wins.size(); ++i)
+    for (std::size_t j = i + 1; j < wins.size(); ++j)
+      EXPECT_GT(Apart(wins[i], wins[j]), 150) << "characters " << i / 2 << " and " << j / 2;
 }
 
 // The command slots the computer starts from 13 units or more and from 10 or more, by the

@@ -173,6 +173,12 @@ float Reach(const fig::Model& model, int first, int last) {
 }
 
 float Leg_Length(const fig::Skeleton& s) { return s.joint[4][1] - s.joint[10][1]; }
+float Arm_Length(const fig::Skeleton& s) {
+  auto span = [&](int a, int b) {
+    return std::hypot(s.joint[a][0] - s.joint[b][0], s.joint[a][1] - s.joint[b][1], s.joint[a][2] - s.joint[b][2]);
+  };
+  return span(5, 6) + span(6, 7);
+}
 
 TEST_F(PreloadData, EveryCharactersSkeletonFitsTheMotions) {
   const int shared_frames = F().last_shared_frame + 1;
@@ -211,8 +217,10 @@ TEST_F(PreloadData, EveryCharactersSkeletonFitsTheMotions) {
       lo = std::min(lo, out[1]), hi = std::max(hi, out[1]);
     }
     EXPECT_NEAR((lo + hi) / 2 + fig::kStandingY + fig::Fig_StandingOffset(c), fig::Fig_FootHeight(c), 0.2f);
-    // Each attack reaches its band in front of the body; a bigger body reaches further.
-    float scale = std::max(1.0f, Leg_Length(skel) / Leg_Length(fig::Fig_ReferenceSkeleton()));
+    // Each attack reaches its band in front of the body; a bigger body (longer legs or arms)
+    // reaches further.
+    const fig::Skeleton& ref = fig::Fig_ReferenceSkeleton();
+    float scale = std::max({1.0f, Leg_Length(skel) / Leg_Length(ref), Arm_Length(skel) / Arm_Length(ref)});
     for (int i = 0; i < mot::Mot_ReachCount(); ++i) {
       const mot::Reach& r = mot::Mot_ReachOf(i);
       float reach = Reach(*model, First(r.action), Last(r.action));

@@ -212,8 +212,9 @@ void Body_Attachments(Model& m, int character, const Look& lk, const BodyFrame& 
         float side = right ? 1.0f : -1.0f;
         Vec3 sh = bf.joint[right ? P_R_UPPERARM : P_L_UPPERARM];
         float r = lk.arm_r * 1.5f;
-        Single(m, i, R_ACCS, sh + Vec3{-side * 0.25f, r * 0.85f, 0}, sh + Vec3{side * (0.45f + lk.arm_r), r * 0.35f, 0},
-               r * 0.55f, r * 1.1f, 5);
+        // Capping the shoulder and sloping down over the upper arm, not standing out level.
+        Single(m, i, R_ACCS, sh + Vec3{-side * 0.02f, r * 0.9f, 0}, sh + Vec3{side * (0.16f + lk.arm_r), -r * 0.35f, 0},
+               r * 0.45f, r * 1.15f, 5);
         break;
       }
       case Piece::Ribbon: {

@@ -55,6 +55,18 @@ struct Station {
   float t, rx, rz;
   float bulge_front = 0, bulge_back = 0;
 };
+// Hairline height (fraction of the head from chin to crown) round the head: the hair covers the
+// head from this line up to the crown.
+struct HairShape {
+  float front, side, back;  // hairline heights
+  float grow;               // how far the hair stands off the skin
+  float shag;               // random unevenness of the shell
+  int spikes;
+};
+HairShape Hair_Shape(Hair h);
+// The hairline's height at angle theta round the head (degrees, 90 the front, -90 the back).
+float Hair_Line(const HairShape& hs, float theta);
+
 bool Body_Tube(Model& m, int part, int region, Vec3 a, Vec3 b, const Station* st, int n, int sides,
                bool cap_a, bool cap_b, float square = 1.0f);
 

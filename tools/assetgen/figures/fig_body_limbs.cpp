@@ -97,7 +97,7 @@ void Body_Torso(Model& m, const Look& lk, const BodyFrame& bf) {
   lf.cap_last = true;
   Mesh_Loft(m, lf, r, 5);
 
-  float nr = lk.head_w * (lk.female ? 0.17f : 0.2f) * (1.0f + 0.2f * lk.bulk);
+  float nr = lk.head_w * (lk.female ? 0.22f : 0.26f) * (1.0f + 0.25f * lk.bulk);
   Station neck[] = {{0, nr * 1.15f, nr * 1.1f}, {1, nr, nr * 0.95f}};
   Vec3 top = bf.joint[P_HEAD] + Vec3{0, 0.32f, 0.04f};
   Body_Tube(m, P_CHEST, armour ? R_PELVIS : R_SKIN, Vec3{0, bf.neck_base - 0.12f, -0.05f}, top, neck, 2, 8,
@@ -152,16 +152,18 @@ void Body_Legs(Model& m, const Look& lk, const BodyFrame& bf) {
     int thigh = s == 0 ? P_R_THIGH : P_L_THIGH;
     bool left = s == 1;
     Vec3 hip = bf.joint[thigh], knee = bf.joint[thigh + 1], ankle = bf.joint[thigh + 2];
-    Station th[] = {{0.0f, lr * 1.05f * wide, lr * 1.05f * wide}, {0.45f, lr * 0.94f * wide, lr * 0.96f * wide},
-                    {1.0f, lr * 0.64f * wide, lr * 0.68f * wide}};
-    Body_Tube(m, thigh, left ? R_THIGH_L : R_THIGH, hip + Vec3{0, 0.38f, 0}, knee + Vec3{0, -0.1f, 0}, th, 3, 8,
+    // Thigh and shin overlap deep at the knee and narrow to a small opening inside each other,
+    // so a bent knee shows no gap between them.
+    Station th[] = {{0.0f, lr * 1.05f * wide, lr * 1.05f * wide}, {0.55f, lr * 0.88f * wide, lr * 0.9f * wide},
+                    {1.0f, lr * 0.36f * wide, lr * 0.38f * wide}};
+    Body_Tube(m, thigh, left ? R_THIGH_L : R_THIGH, hip + Vec3{0, 0.38f, 0}, knee + Vec3{0, -0.28f, 0}, th, 3, 8,
               false, false, sq);
     float flare = lk.legs == Legwear::Hakama ? 1.5f : 1.0f;
     float boot = boots ? 1.25f : 1.0f;
-    Station sh[] = {{0.0f, lr * 0.64f * wide, lr * 0.66f * wide},
-                    {0.3f, lr * 0.7f * wide, lr * 0.72f * wide, 0.0f, 0.28f},
+    Station sh[] = {{0.0f, lr * 0.42f * wide, lr * 0.44f * wide},
+                    {0.25f, lr * 0.72f * wide, lr * 0.74f * wide, 0.0f, 0.28f},
                     {1.0f, lr * 0.4f * flare * boot, lr * 0.42f * flare * boot}};
-    Body_Tube(m, thigh + 1, left ? R_SHIN_L : R_SHIN, knee + Vec3{0, 0.12f, 0}, ankle + Vec3{0, -0.1f, 0}, sh, 3, 8,
+    Body_Tube(m, thigh + 1, left ? R_SHIN_L : R_SHIN, knee + Vec3{0, 0.3f, 0}, ankle + Vec3{0, -0.1f, 0}, sh, 3, 8,
               false, false, sq);
     // The foot is lofted from heel to toe; its sections face up.
     float fw = 0.22f * (1.0f + 0.2f * lk.bulk) * (boots ? 1.12f : 1.0f);

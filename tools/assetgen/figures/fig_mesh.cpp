@@ -19,18 +19,6 @@ Vec3 Ring_Point(const Ring& r, float theta) {
   return r.centre + r.side * (Spow(c, r.square) * r.rx * rad) + r.fwd * (Spow(s, r.square) * r.rz * rad);
 }
 
-// Adds a face whose normal points away from `inside`, swapping two corners if needed.
-bool Face_Outward(Model& m, int a, int b, int c, int tex, Vec3 inside) {
-  const Vertex& A = m.vertices[a];
-  const Vertex& B = m.vertices[b];
-  const Vertex& C = m.vertices[c];
-  Vec3 pa{A.x, A.y, A.z}, pb{B.x, B.y, B.z}, pc{C.x, C.y, C.z};
-  Vec3 n = Cross(pb - pa, pc - pa);
-  Vec3 mid = (pa + pb + pc) * (1.0f / 3.0f);
-  if (Dot(n, mid - inside) < 0) return Mesh_Face(m, a, c, b, tex);
-  return Mesh_Face(m, a, b, c, tex);
-}
-
 }  // namespace
 
 int Mesh_Vertex(Model& m, Vec3 p, float u, float v, int part) {
@@ -64,6 +52,17 @@ bool Mesh_Quad(Model& m, int a, int b, int c, int d, int tex) {
   return Mesh_Face(m, a, b, c, tex) && Mesh_Face(m, a, c, d, tex);
 }
 
+bool Mesh_FaceOutward(Model& m, int a, int b, int c, int tex, Vec3 inside) {
+  const Vertex& A = m.vertices[a];
+  const Vertex& B = m.vertices[b];
+  const Vertex& C = m.vertices[c];
+  Vec3 pa{A.x, A.y, A.z}, pb{B.x, B.y, B.z}, pc{C.x, C.y, C.z};
+  Vec3 n = Cross(pb - pa, pc - pa);
+  Vec3 mid = (pa + pb + pc) * (1.0f / 3.0f);
+  if (Dot(n, mid - inside) < 0) return Mesh_Face(m, a, c, b, tex);
+  return Mesh_Face(m, a, b, c, tex);
+}
+
 bool Mesh_Loft(Model& m, const Loft& lf, const Ring* rings, int ring_count) {
   int cols = lf.sides + 1;
   int need_v = cols * ring_count + (lf.cap_first ? 1 : 0) + (lf.cap_last ? 1 : 0);
@@ -75,6 +74,7 @@ bool Mesh_Loft(Model& m, const Loft& lf, const Ring* rings, int ring_count) {
   int first = m.vertex_count + 1;
   for (int i = 0; i < ring_count; ++i) {
     float v = ring_count > 1 ? lf.v0 + (lf.v1 - lf.v0) * i / (ring_count - 1) : lf.v0;
+    if (lf.ring_v) v = lf.ring_v[i];
     for (int j = 0; j < cols; ++j) {
       float theta = -0.5f * kPi + 2.0f * kPi * j / lf.sides;  // starts at the back
       float u = lf.u0 + (lf.u1 - lf.u0) * j / lf.sides;
@@ -85,8 +85,8 @@ bool Mesh_Loft(Model& m, const Loft& lf, const Ring* rings, int ring_count) {
     Vec3 inside = (rings[i].centre + rings[i + 1].centre) * 0.5f;
     for (int j = 0; j < lf.sides; ++j) {
       int a = first + i * cols + j, b = a + 1, c = a + cols + 1, d = a + cols;
-      Face_Outward(m, a, b, c, lf.tex, inside);
-      Face_Outward(m, a, c, d, lf.tex, inside);
+      Mesh_FaceOutward(m, a, b, c, lf.tex, inside);
+      Mesh_FaceOutward(m, a, c, d, lf.tex, inside);
     }
   }
   for (int end = 0; end < 2; ++end) {
@@ -100,10 +100,43 @@ bool Mesh_Loft(Model& m, const Loft& lf, const Ring* rings, int ring_count) {
     Vec3 inside = rings[ri].centre - Normalise(axis);
     for (int j = 0; j < lf.sides; ++j) {
       int a = first + ri * cols + j;
-      Face_Outward(m, centre, a, a + 1, lf.tex, inside);
+      Mesh_FaceOutward(m, centre, a, a + 1, lf.tex, inside);
     }
   }
   return true;
+}
+
+namespace {
+
+// Corner number of the box corner at the low (0) or high (1) end of each axis.
+int Box_Corner(int ix, int iy, int iz) { return iy * 4 + (iz ? (ix ? 2 : 3) : (ix ? 1 : 0)); }
+
+}  // namespace
+
+// The floor shadow of a box is the box swept along its longest side: whichever way the part
+// lies, its outline is covered by the two diagonal sections along that side (one of them always
+// spans the outline's full width), with half of each end face to round off the ends. Covering
+// the two end faces and only one section instead leaves thin streaks wherever the other
+// diagonal is the wide one.
+void Box_Shadow(float size_x, float size_y, float size_z, std::int16_t out[18]) {
+  const float size[3] = {size_x, size_y, size_z};
+  int along = 1;
+  if (size[0] > size[along]) along = 0;
+  if (size[2] > size[along]) along = 2;
+  const int u = along == 0 ? 1 : 0, v = along == 2 ? 1 : 2;
+  // End `e`'s corners in order round the face.
+  auto corner = [&](int e, int k) {
+    static constexpr int kRound[4][2] = {{0, 0}, {1, 0}, {1, 1}, {0, 1}};
+    int at[3];
+    at[along] = e;
+    at[u] = kRound[k][0];
+    at[v] = kRound[k][1];
+    return static_cast<std::int16_t>(Box_Corner(at[0], at[1], at[2]));
+  };
+  const std::int16_t tris[18] = {corner(0, 0), corner(0, 2), corner(1, 2), corner(0, 0), corner(1, 2), corner(1, 0),
+                                 corner(0, 1), corner(0, 3), corner(1, 3), corner(0, 1), corner(1, 3), corner(1, 1),
+                                 corner(0, 0), corner(0, 1), corner(0, 2), corner(1, 0), corner(1, 2), corner(1, 3)};
+  std::copy(tris, tris + 18, out);
 }
 
 void Mesh_PartBox(const Model& m, int part, PartBox& box, bool& any) {
@@ -128,9 +161,7 @@ void Mesh_PartBox(const Model& m, int part, PartBox& box, bool& any) {
     box.corner[c][1] = c >= 4 ? hi[1] : lo[1];
     box.corner[c][2] = iz ? hi[2] : lo[2];
   }
-  // Shadow: the lower face, the upper face and the diagonal section between them.
-  static constexpr std::int16_t kShadow[18] = {0, 1, 2, 0, 2, 3, 4, 5, 6, 4, 6, 7, 0, 2, 6, 0, 6, 4};
-  std::copy(kShadow, kShadow + 18, box.shadow);
+  Box_Shadow(hi[0] - lo[0], hi[1] - lo[1], hi[2] - lo[2], box.shadow);
 }
 
 void Mesh_Finish(Model& m, const int* region_to_texture, int max_tag) {

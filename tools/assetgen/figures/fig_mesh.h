@@ -24,6 +24,7 @@ struct Loft {
   int sides = 8;
   float u0 = 0, u1 = 255;  // texture span around the section (back, right, front, left, back)
   float v0 = 0, v1 = 255;  // texture span from the first to the last ring
+  const float* ring_v = nullptr;  // or each ring's own texture row
   bool cap_first = false, cap_last = false;
 };
 
@@ -31,6 +32,8 @@ struct Loft {
 bool Mesh_Loft(Model& m, const Loft& loft, const Ring* rings, int ring_count);
 int Mesh_Vertex(Model& m, Vec3 p, float u, float v, int part);  // 0 when full
 bool Mesh_Face(Model& m, int a, int b, int c, int tex);
+// A face whose normal points away from `inside`, two corners swapped if needed.
+bool Mesh_FaceOutward(Model& m, int a, int b, int c, int tex, Vec3 inside);
 // A flat quad strip a b c d (counter-clockwise seen from the front) made two triangles.
 bool Mesh_Quad(Model& m, int a, int b, int c, int d, int tex);
 
@@ -39,5 +42,7 @@ bool Mesh_Quad(Model& m, int a, int b, int c, int d, int tex);
 // indices.
 void Mesh_Finish(Model& m, const int* region_to_texture, int max_tag);
 void Mesh_PartBox(const Model& m, int part, PartBox& box, bool& any);
+// The six triangles (corner numbers) that outline the floor shadow of a box of these sides.
+void Box_Shadow(float size_x, float size_y, float size_z, std::int16_t out[18]);
 
 }  // namespace fig

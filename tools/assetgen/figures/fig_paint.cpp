@@ -393,134 +393,7 @@ void Paint_Accessory(Image& img, const Ctx& cx, bool scarf) {
 
 // ---- the face -----------------------------------------------------------------------------
 
-float FU(const Image& img, float u) { return u / 255.0f * img.width; }
-float FV(const Image& img, float v) { return v / 255.0f * img.height; }
-
-void Paint_Eye(Image& img, float x, float y, float size, Rgb iris, Expression e, bool visor, int side) {
-  if (visor) return;
-  float w = 5.0f * size, h = 2.6f * size;
-  Rgb line{40, 26, 22};
-  if (e == Expression::Hurt) {  // squeezed shut
-    Img_Line(img, x - w, y - 0.5f, x + w, y + 0.8f, 1.6f, line);
-    Img_Line(img, x - w * 0.6f, y + 1.8f, x + w * 0.7f, y + 1.6f, 1.0f, line, 0.6f);
-    return;
-  }
-  float open = e == Expression::Shout ? 1.35f : 1.0f;
-  Img_Ellipse(img, x, y, w, h * open, Rgb{246, 242, 236});
-  Img_Ellipse(img, x + side * 0.4f, y + 0.2f, h * 0.95f, h * 0.95f * open, iris);
-  Img_Ellipse(img, x + side * 0.4f, y + 0.2f, h * 0.45f, h * 0.45f, Rgb{12, 10, 10});
-  Img_Ellipse(img, x + side * 0.4f - 0.8f, y - 0.6f, 0.7f, 0.7f, Rgb{255, 255, 255});
-  Img_Line(img, x - w, y - h * 0.4f * open, x + w, y - h * 0.6f * open, 1.5f, line);  // upper lid
-}
-
-void Paint_Brow(Image& img, float x, float y, Brow b, Rgb c, Expression e, int side) {
-  float w = 6.0f, thick = b == Brow::Thick ? 2.6f : (b == Brow::Thin ? 1.3f : 1.9f);
-  float inner = 0, outer = 0;
-  if (b == Brow::Angry) inner = 1.5f;
-  if (b == Brow::Arched) outer = 1.0f;
-  if (e == Expression::Hurt) inner -= 2.5f;
-  if (e == Expression::Shout) inner += 2.0f;
-  // side = +1 for the brow on the picture's right (the figure's left eye).
-  float xi = x - side * w * 0.5f, xo = x + side * w * 0.5f;
-  Img_Line(img, xi, y + inner, x, y - 1.0f - outer, thick, c);
-  Img_Line(img, x, y - 1.0f - outer, xo, y + 0.5f, thick, c);
-}
-
-void Paint_Mouth(Image& img, float x, float y, float width, Expression e, Rgb skin, bool female) {
-  float w = 7.0f * width;
-  Rgb lip = female ? Rgb{180, 70, 80} : Mix(skin, Rgb{120, 50, 50}, 0.45f);
-  if (e == Expression::Calm) {
-    Img_Line(img, x - w, y, x + w, y, 1.4f, Scale(lip, 0.6f));
-    Img_Ellipse(img, x, y + 1.6f, w * 0.6f, 1.2f, lip, 0.6f);
-    return;
-  }
-  float open = e == Expression::Shout ? 5.5f : 3.0f;
-  Img_Ellipse(img, x, y + open * 0.4f, w * (e == Expression::Shout ? 0.8f : 1.0f), open, Rgb{60, 16, 20});
-  Img_Rect(img, x - w * 0.6f, y + open * 0.4f - open + 0.5f, x + w * 0.6f, y + open * 0.4f - open + 2.0f, Rgb{236, 232, 222});
-  if (e == Expression::Hurt)
-    Img_Rect(img, x - w * 0.6f, y + open * 0.4f + open - 2.0f, x + w * 0.6f, y + open * 0.4f + open - 0.5f, Rgb{236, 232, 222});
-}
-
 }  // namespace
-
-void Fig_PaintFace(int character, Expression e, Image& img) {
-  const Look& lk = Fig_Look(character);
-  const Palette& p = lk.colours[0];  // alternates are shared by both colourings
-  Img_New(img, 128, 128);
-  Rgb skin = Hex(lk.skin);
-  bool visor = lk.face.mark == Mark::Visor;
-  Skin(img, skin, character * 17 + 5);
-  int W = img.width;
-  float cxp = W * 0.5f;
-  // Shading: cheeks, eye sockets, under the chin; ears at the sides.
-  for (int y = 0; y < img.height; ++y)
-    for (int x = 0; x < W; ++x) {
-      float a = 2.0f * kPi * (static_cast<float>(x) / W - 0.5f);
-      float lit = 0.72f + 0.28f * (0.5f + 0.5f * std::cos(a));
-      float v = static_cast<float>(y) / img.height;
-      if (v > 0.86f) lit *= 0.8f;
-      Img_Put(img, x, y, Scale(Img_Get(img, x, y), lit));
-    }
-  float eye_y = FV(img, Face_V(0.60f)), brow_y = FV(img, Face_V(0.72f));
-  float nose_y = FV(img, Face_V(0.45f)), mouth_y = FV(img, Face_V(0.27f));
-  float eye_dx = FU(img, 15.0f);
-  for (float ex : {FU(img, 64.0f), FU(img, 192.0f)})
-    Img_Ellipse(img, ex, (eye_y + nose_y) * 0.5f, 3.0f, 6.0f, Scale(skin, 0.8f));
-  if (!visor) {
-    Img_Ellipse(img, cxp - eye_dx * 1.3f, nose_y + 3, 5, 3, Mix(skin, Rgb{220, 120, 110}, 0.25f), 0.6f);
-    Img_Ellipse(img, cxp + eye_dx * 1.3f, nose_y + 3, 5, 3, Mix(skin, Rgb{220, 120, 110}, 0.25f), 0.6f);
-    Img_Ellipse(img, cxp, nose_y + 2.0f, 2.5f, 1.3f, Scale(skin, 0.72f));  // under the nose
-    Img_Line(img, cxp + 1, brow_y + 3, cxp + 1.5f, nose_y, 1.0f, Scale(skin, 0.85f), 0.5f);
-  }
-  // Beard before the features so the mouth stays visible.
-  Rgb hair = Hex(p.hair);
-  if (lk.hair == Hair::Helmet || lk.hair == Hair::Bald) hair = Rgb{40, 32, 28};
-  if (lk.face.beard == Beard::Full) {
-    for (int y = static_cast<int>(nose_y + 2); y < img.height; ++y)
-      for (int x = static_cast<int>(FU(img, 70)); x < FU(img, 186); ++x)
-        Img_Blend(img, x, y, Scale(hair, 0.8f + 0.4f * Noise(x * 3, y, 2, 9, W * 3)), 0.92f);
-  } else if (lk.face.beard == Beard::Stubble) {
-    for (int y = static_cast<int>(mouth_y - 4); y < img.height * 0.9f; ++y)
-      for (int x = static_cast<int>(FU(img, 80)); x < FU(img, 176); ++x)
-        Img_Blend(img, x, y, hair, 0.25f * Noise(x, y, 1, 4, W));
-  }
-  if (lk.face.beard == Beard::Moustache || lk.face.beard == Beard::Full)
-    Img_Line(img, cxp - 8, mouth_y - 1, cxp + 8, mouth_y - 1, 3.0f, Scale(hair, 0.7f));
-  Rgb brow = Scale(hair, 0.8f);
-  if (!visor) {
-    Paint_Eye(img, cxp - eye_dx, eye_y, lk.face.eye_size, Hex(lk.face.iris), e, false, 1);
-    Paint_Eye(img, cxp + eye_dx, eye_y, lk.face.eye_size, Hex(lk.face.iris), e, false, -1);
-    Paint_Brow(img, cxp - eye_dx, brow_y, lk.face.brow, brow, e, -1);
-    Paint_Brow(img, cxp + eye_dx, brow_y, lk.face.brow, brow, e, 1);
-    Paint_Mouth(img, cxp, mouth_y, lk.face.mouth, e, skin, lk.female);
-  }
-  switch (lk.face.mark) {
-    case Mark::Scar:
-      Img_Line(img, cxp + eye_dx - 4, brow_y - 4, cxp + eye_dx + 3, nose_y + 4, 1.4f, Rgb{150, 70, 70});
-      break;
-    case Mark::Paint:
-      for (int s = -1; s <= 1; s += 2)
-        Img_Line(img, cxp + s * eye_dx * 0.7f, eye_y + 5, cxp + s * eye_dx * 1.6f, eye_y + 9, 2.0f, Hex(p.accent));
-      break;
-    case Mark::Visor: {
-      Rgb glow = Hex(p.accent);
-      float open = e == Expression::Shout ? 1.6f : (e == Expression::Hurt ? 0.5f : 1.0f);
-      Img_Rect(img, FU(img, 84), eye_y - 6, FU(img, 172), eye_y + 6, Rgb{20, 22, 28});
-      Img_Rect(img, FU(img, 90), eye_y - 2 * open, FU(img, 166), eye_y + 2 * open, glow);
-      for (int k = 0; k < 5; ++k)  // grille
-        Img_Rect(img, cxp - 8, mouth_y - 4 + k * 2.5f, cxp + 8, mouth_y - 3 + k * 2.5f, Rgb{30, 32, 38});
-      break;
-    }
-    case Mark::Mask:
-      for (int y = static_cast<int>(nose_y - 2); y < img.height; ++y)
-        for (int x = static_cast<int>(FU(img, 76)); x < FU(img, 180); ++x)
-          Img_Put(img, x, y, Scale(Hex(p.main), 0.85f + 0.15f * Noise(x, y, 3, 2, W)));
-      break;
-    case Mark::None: break;
-  }
-  if (lk.face.mark == Mark::Mask && e == Expression::Shout)
-    Img_Ellipse(img, cxp, mouth_y + 1, 4, 2, Scale(Hex(p.main), 0.5f));
-}
 
 void Fig_PaintRow(int row, const Model& m, const TextureLayout& lay, std::vector<NamedImage>& textures,
                   std::vector<NamedImage>& faces) {
@@ -533,10 +406,11 @@ void Fig_PaintRow(int row, const Model& m, const TextureLayout& lay, std::vector
     ni.name = m.textures[t];
     Image& img = ni.image;
     int r = lay.region[t];
-    bool big = r == R_FACE || r == R_TORSO || r == R_TORSO_BACK;
-    Img_New(img, big ? 128 : 64, big ? 128 : 64);
+    bool big = r == R_TORSO || r == R_TORSO_BACK;
+    int size = r == R_FACE ? kFaceSize : (big ? 128 : 64);
+    Img_New(img, size, size);
     switch (r) {
-      case R_FACE: Fig_PaintFace(character, Expression::Calm, img); break;
+      case R_FACE: Fig_PaintFace(character, Expression::Calm, img, lay.colouring); break;
       case R_HAIR: case R_HAIR_BACK: Paint_Hair(img, cx, r == R_HAIR_BACK); break;
       case R_SKIN: Skin(img, Hex(lk.skin), cx.seed); Bake_Light(img, 0.3f, 0.0f); break;
       case R_TORSO: case R_TORSO_BACK: Paint_Torso(img, cx, r == R_TORSO_BACK); break;

@@ -16,7 +16,9 @@ enum class Expression { Calm, Hurt, Shout };
 void Fig_PaintRow(int row, const Model& model, const TextureLayout& layout, std::vector<NamedImage>& textures,
                   std::vector<NamedImage>& faces);
 
-// One face picture of a character.
-void Fig_PaintFace(int character, Expression expression, Image& out);
+// One face picture of a character, with the hair of its first or second colouring where the
+// hair covers the head. The face is large: portraits show it full screen.
+constexpr int kFaceSize = 256;
+void Fig_PaintFace(int character, Expression expression, Image& out, int colouring = 0);
 
 }  // namespace fig

@@ -19,7 +19,12 @@ constexpr Pose kHurtBack = With(kStance, {{4, 16, 28, 0},   {3, -26, 12, 0}, {2,
                                           {11, 20, 0, -40}, {12, -30, 0, 0}, {5, 20, 0, 40}, {6, -30, 0, 0}});
 constexpr Pose kDoubled = With(kHurt, {{4, -4, 10, 0},    {3, 50, 0, 0},    {2, 20, -10, 0},
                                        {11, -50, 30, -10}, {12, -110, 0, 0}, {5, -50, -30, 10}, {6, -110, 0, 0}});
-constexpr Pose kStagger = Plus(kHurtHigh, {{4, 0, 60, 0}, {3, 10, 10, 0}, {2, 10, -30, 0}, {15, 20, 0, 0}});
+// Spun by a blow to the side of the head: the shoulders and head wrenched round while the hips
+// and feet hold, the lead arm knocked wide and the rear one coming up to cover; then reeling on.
+constexpr Pose kStagger = With(kStance, {{4, -4, 46, 0},    {3, 14, 34, 6},   {2, 18, -6, 18},
+                                         {11, -18, 0, -34}, {12, -46, 20, 0}, {5, -48, 0, 22}, {6, -112, -25, 0},
+                                         {14, -22, -8, -4}, {15, 38, 0, 0},   {8, 10, -6, 6},  {9, 34, 0, 0}});
+constexpr Pose kStaggerOn = Plus(kStagger, {{4, 0, 10, 0}, {3, 6, 12, 0}, {2, 8, 4, 6}, {11, 6, 0, 8}});
 constexpr Pose kDazed = With(kStance, {{4, 0, 20, 6},  {3, 20, 10, -8}, {2, 30, -20, 16},
                                        {11, 0, 0, -6}, {12, -20, 0, 0}, {5, 0, 0, 6},    {6, -20, 0, 0},
                                        {15, 40, 0, 0}, {9, 36, 0, 0}});
@@ -103,7 +108,8 @@ constexpr Motion kMotions[] = {
       {P(&kDoubled, 4, Ease::Snap), P(&kKneesDrop, 10, Ease::In), P(&kSitDown, 6, Ease::InOut),
        Impact(Cue(P(&kLyingUp, 8, Ease::In), kCueFall)), P(&kLyingUp, 12, Ease::Linear)}),
     Knockdown("high_knockdown", 144, &kHurtHigh, &kAirBack, &kLyingUp, 2.5f, 1.0f),
-    Recoil("stagger_turn", 145, &kStagger, 8, 14, 0.3f),
+    M("stagger_turn", 145, &kStance,
+      {P(&kStagger, 3, Ease::Snap, Z(-0.3f)), P(&kStaggerOn, 7, Ease::Out), P(&kStance, 14, Ease::InOut, Z(0.3f))}),
     Recoil("doubled_over", 146, &kDoubled, 14, 14, 0.2f),
     M("sit_down_fall", 147, &kStance,
       {P(&kHurtHigh, 4, Ease::Snap, Z(-0.6f)), P(&kSitDown, 12, Ease::In, Z(-0.6f)),

@@ -105,8 +105,10 @@ std::vector<Pose> Grab_Poses(const Pose& s) {
 }
 
 std::vector<Pose> Charge_Poses(const Pose& s) {
-  const Pose load = Pose_With(s, {{4, 5, -50, 0}, {3, 20, -30, 0}, {2, -10, 40, 0}, {5, -20, 0, 10}, {6, -130, 0, 0},
-                                  {11, -30, 0, -10}, {12, -130, 0, 0}, {15, 45, 0, 0}, {9, 45, 0, 0}},
+  // Turned to drive the rear shoulder in, low behind it: the rear forearm raised across the chest
+  // as a ram, the lead hand braced against it, the head tucked in.
+  const Pose load = Pose_With(s, {{4, 5, -50, 0}, {3, 20, -30, 0}, {2, 8, 40, 0}, {5, -72, -40, 0}, {6, -112, 0, 0},
+                                  {7, 0, 0, 0}, {11, -62, 30, 0}, {12, -105, 0, 0}, {15, 45, 0, 0}, {9, 45, 0, 0}},
                               {0, -0.4f, 0});
   const Pose hit = Pose_With(load, {{4, 15, -70, 0}, {3, 25, -20, 0}, {14, -60, -8, -4}, {15, 60, 0, 0},
                                     {8, 30, -6, 6}, {9, 5, 0, 0}});
@@ -249,6 +251,35 @@ std::vector<Pose> VictoryBlade_Poses(const Pose& s) {
                                   {11, -10, 0, -20}, {12, -100, 0, 0}, {14, -20, -8, -4}, {15, 10, 0, 0},
                                   {8, 6, -6, 6}, {9, 6, 0, 0}});
   return {twirl, present};
+}
+
+std::vector<Pose> VictoryPoint_Poses(const Pose&) {
+  // Weight on the rear leg, the right hand on the hip, the left arm raised, then pointing down
+  // the line at the fallen opponent.
+  const Pose raise = Pose_Make({{4, 0, 20, 0}, {3, -6, 10, 0}, {2, -8, -20, 0}, {5, 10, 0, 45}, {6, -100, 0, 0},
+                                {11, -150, 0, -10}, {12, -20, 0, 0}, {14, -18, 0, -8}, {15, 12, 0, 0},
+                                {16, 6, 0, 0}, {8, 6, 0, 8}, {9, 8, 0, 0}, {10, -8, 0, 0}});
+  const Pose point = Pose_With(raise, {{11, -70, 0, -4}, {12, -4, 0, 0}, {13, 10, 0, 0}, {2, 12, -24, 0},
+                                       {3, 4, 14, 0}});
+  return {raise, point};
+}
+
+std::vector<Pose> VictoryHips_Poses(const Pose&) {
+  // Feet apart, hands set on the hips, then the head thrown back in a laugh.
+  const Pose set = Pose_Make({{5, 10, 0, 45}, {6, -100, 0, 0}, {11, 10, 0, -45}, {12, -100, 0, 0}, {3, -6, 0, 0},
+                              {2, -8, 0, 0}, {14, 0, 0, -10}, {16, 0, 0, 10}, {8, 0, 0, 10}, {10, 0, 0, -10},
+                              {4, 0, 10, 0}});
+  const Pose laugh = Pose_With(set, {{3, -14, 0, 0}, {2, -30, 0, 0}});
+  return {set, laugh};
+}
+
+std::vector<Pose> VictoryStance_Poses(const Pose&) {
+  // A wide, deep stance with both fists drawn back to the hips; then the lead fist goes out.
+  const Pose close = Pose_Make({{4, 0, 0, 0}, {3, -2, 0, 0}, {2, 4, 0, 0}, {5, 30, 0, 14}, {6, -115, 0, 0},
+                                {11, 30, 0, -14}, {12, -115, 0, 0}, {14, -30, 0, -22}, {15, 52, 0, 0},
+                                {16, -22, 0, 20}, {8, -30, 0, 22}, {9, 52, 0, 0}, {10, -22, 0, -20}});
+  const Pose punch = Pose_With(close, {{11, -84, 0, 4}, {12, -4, 0, 0}, {3, -2, -12, 0}, {2, 2, 12, 0}});
+  return {close, punch};
 }
 
 // ---- beats --------------------------------------------------------------------------------
@@ -436,6 +467,18 @@ constexpr Beat kVictoryBlade[] = {
     B(0, 12, Ease::InOut, kNo, 3, kCueWhoosh), B(1, 10, Ease::Snap, kNo, 0, kCueShout),
     B(1, 30, Ease::Linear, kNo, 3),
 };
+constexpr Beat kVictoryPoint[] = {
+    B(0, 16, Ease::InOut, kNo, 3, kCueStep), B(1, 8, Ease::Snap, kNo, 0, kCueShout),
+    B(1, 30, Ease::Linear, kNo, 3),
+};
+constexpr Beat kVictoryHips[] = {
+    B(0, 18, Ease::InOut, kNo, 3, kCueStep), B(1, 12, Ease::Out, kNo, 0, kCueShout),
+    B(0, 10, Ease::InOut), B(1, 10, Ease::InOut, kNo, 3),
+};
+constexpr Beat kVictoryStance[] = {
+    B(0, 20, Ease::InOut, kNo, 3, kCueStep), B(0, 10, Ease::Linear),
+    B(1, 8, Ease::Snap, kNo, 0, kCueKiai), B(1, 24, Ease::Linear, kNo, 3),
+};
 
 template <std::size_t N>
 constexpr int Count(const Beat (&)[N]) {
@@ -480,6 +523,9 @@ const KindRow kKinds[] = {
     KIND("victory bow",  VictoryBow_Poses,   kVictoryBow,   0,  false),  // VictoryBow
     KIND("victory arms", VictoryArms_Poses,  kVictoryArms,  0,  false),  // VictoryArms
     KIND("victory blade", VictoryBlade_Poses, kVictoryBlade, 0, false),  // VictoryBlade
+    KIND("victory point", VictoryPoint_Poses, kVictoryPoint, 0, false),  // VictoryPoint
+    KIND("victory hips", VictoryHips_Poses,  kVictoryHips,  0,  false),  // VictoryHips
+    KIND("victory stance", VictoryStance_Poses, kVictoryStance, 0, false),  // VictoryStance
 };
 // clang-format on
 #undef KIND

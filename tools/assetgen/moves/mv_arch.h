@@ -37,6 +37,9 @@ enum class Arch : std::uint8_t {
   VictoryBow,   // fist in palm, bow
   VictoryArms,  // arms folded, chin up
   VictoryBlade, // weapon twirled and presented
+  VictoryPoint, // a hand on the hip, the other pointing down at the beaten
+  VictoryHips,  // both hands on the hips, head thrown back laughing
+  VictoryStance,// a deep closing stance, fists chambered, then one slow punch
   Count
 };
 

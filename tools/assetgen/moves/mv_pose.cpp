@@ -34,6 +34,17 @@ mot::Pose Pose_With(const mot::Pose& base, std::initializer_list<Turn> turns, fi
   return p;
 }
 
+mot::Pose Pose_Plus(const mot::Pose& base, std::initializer_list<Turn> turns, fig::Vec3 root_shift) {
+  mot::Pose p = base;
+  p.root = p.root + root_shift;
+  for (const Turn& t : turns) {
+    p.ang[t.part][0] += t.x;
+    p.ang[t.part][1] += t.y;
+    p.ang[t.part][2] += t.z;
+  }
+  return p;
+}
+
 mot::Pose Pose_Mirror(const mot::Pose& in) {
   mot::Pose p = in;
   for (const auto& s : kSides)

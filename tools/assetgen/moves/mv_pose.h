@@ -16,6 +16,8 @@ struct Turn {
 mot::Pose Pose_Make(std::initializer_list<Turn> turns, fig::Vec3 root = {});
 // `base` with some parts turned differently and the hips shifted by `root_shift`.
 mot::Pose Pose_With(const mot::Pose& base, std::initializer_list<Turn> turns, fig::Vec3 root_shift = {});
+// `base` with some parts turned further by the given amounts.
+mot::Pose Pose_Plus(const mot::Pose& base, std::initializer_list<Turn> turns, fig::Vec3 root_shift = {});
 // The same pose done with the other side of the body: right and left limbs exchange their
 // turns, and every turn about the vertical and the forward axis changes sense.
 mot::Pose Pose_Mirror(const mot::Pose& p);

@@ -13,6 +13,7 @@
 #include "motion/mot_shared.h"
 #include "moves/mv_arch.h"
 #include "moves/mv_holds.h"
+#include "moves/mv_manner.h"
 #include "moves/mv_pose.h"
 #include "moves/mv_reach.h"
 
@@ -32,21 +33,21 @@ struct Style {
 
 // clang-format off
 constexpr Style kStyles[15] = {
-    {1.00f, 1.00f, false, A::VictoryFist,  A::VictoryBow},    // 0
-    {0.85f, 0.95f, false, A::VictoryBow,   A::VictoryFist},   // 1
-    {1.00f, 1.05f, false, A::VictoryArms,  A::VictoryFist},   // 2
-    {0.90f, 0.97f, false, A::VictoryBow,   A::VictoryArms},   // 3
-    {1.15f, 1.15f, false, A::VictoryArms,  A::VictoryFist},   // 4
-    {0.90f, 0.93f, true,  A::VictoryBlade, A::VictoryBow},    // 5
-    {1.05f, 0.98f, true,  A::VictoryBlade, A::VictoryArms},   // 6
-    {0.95f, 1.02f, false, A::VictoryFist,  A::VictoryArms},   // 7
-    {1.20f, 1.10f, false, A::VictoryArms,  A::VictoryBow},    // 8
-    {0.85f, 1.03f, true,  A::VictoryBlade, A::VictoryFist},   // 9
-    {0.90f, 1.12f, false, A::VictoryFist,  A::VictoryBow},    // 10
-    {1.00f, 1.09f, false, A::VictoryArms,  A::VictoryBow},    // 11
-    {0.95f, 1.07f, false, A::VictoryBow,   A::VictoryFist},   // 12
-    {1.10f, 1.18f, true,  A::VictoryBlade, A::VictoryArms},   // 13
-    {1.05f, 1.20f, false, A::VictoryArms,  A::VictoryFist},   // 14
+    {1.00f, 1.00f, false, A::VictoryStance, A::VictoryBow},  // 0
+    {0.85f, 0.95f, false, A::VictoryHips,   A::VictoryPoint},  // 1
+    {1.00f, 1.05f, false, A::VictoryArms,   A::VictoryBow},  // 2
+    {0.90f, 0.97f, false, A::VictoryPoint,  A::VictoryArms},  // 3
+    {1.15f, 1.15f, false, A::VictoryFist,   A::VictoryHips},  // 4
+    {0.90f, 0.93f, true,  A::VictoryBlade,  A::VictoryHips},  // 5
+    {1.05f, 0.98f, true,  A::VictoryBlade,  A::VictoryBow},  // 6
+    {0.95f, 1.02f, false, A::VictoryStance, A::VictoryFist},  // 7
+    {1.20f, 1.10f, false, A::VictoryArms,   A::VictoryFist},  // 8
+    {0.85f, 1.03f, true,  A::VictoryBlade,  A::VictoryPoint},  // 9
+    {0.90f, 1.12f, false, A::VictoryPoint,  A::VictoryStance},  // 10
+    {1.00f, 1.09f, false, A::VictoryBow,    A::VictoryPoint},  // 11
+    {0.95f, 1.07f, false, A::VictoryHips,   A::VictoryStance},  // 12
+    {1.10f, 1.18f, true,  A::VictoryBlade,  A::VictoryFist},  // 13
+    {1.05f, 1.20f, false, A::VictoryHips,   A::VictoryArms},  // 14
 };
 // clang-format on
 
@@ -179,15 +180,43 @@ int Entry_Of(const mot::Motion& m, int wanted) {
   return std::min(wanted, std::max(0, frame - 1));
 }
 
-Move Build_Move(int action, const Style& st, const Row& row) {
+// Kicks: the moves whose first blow lands with a foot or a knee.
+bool Is_Kick(const ArchDef& d) {
+  for (int i = 0; i < d.beat_count; ++i) {
+    const Limb l = d.beats[i].limb;
+    if (l != Limb::None) return l == Limb::LeadFoot || l == Limb::RearFoot || l == Limb::RearKnee;
+  }
+  return false;
+}
+
+// One-handed blows: 1 when only the lead hand strikes, 2 when only the rear hand or the weapon
+// in it, 0 otherwise.
+int One_Hand(const ArchDef& d) {
+  bool lead = false, rear = false, other = false;
+  for (int i = 0; i < d.beat_count; ++i) {
+    const Limb l = d.beats[i].limb;
+    if (l == Limb::LeadHand) lead = true;
+    else if (l == Limb::RearHand || l == Limb::Weapon) rear = true;
+    else if (l != Limb::None) other = true;
+  }
+  if (other || lead == rear) return 0;
+  return lead ? 1 : 2;
+}
+
+Move Build_Move(int character, int action, const Style& st, const Row& row) {
   const ArchDef& d = Arch_Def(row.arch);
   const bool blades = row.arch == Arch::Blades || row.arch == Arch::SuperBlades || row.arch == Arch::VictoryBlade;
   const bool mirror = row.mirror && !(blades && st.weapon);
   const mot::Pose& stance = Arch_Stance(d.low_stance);
   std::vector<const mot::Pose*> poses;
   const bool victory = row.arch >= Arch::VictoryFist;
+  const bool kicking = Is_Kick(d);
+  const int hand = One_Hand(d);
   for (const mot::Pose& p : d.poses) {
     mot::Pose q = victory ? p : Pose_Scale(stance, p, st.power);
+    if (kicking) q = Mv_KickArms(character, q);
+    if (hand != 0) q = Mv_FreeArm(character, q, hand == 1);
+    if (!victory) q = Mv_Attitude(character, q);
     poses.push_back(Keep(mirror ? Pose_Mirror(q) : q));
   }
   Move mv;
@@ -364,6 +393,16 @@ void Stride_Lunge(Move& mv, bool mirror) {
   }
 }
 
+// A victory pose in the character's manner, rising out of its own guard.
+Move Victory(int character, int which, Move mv) {
+  mv.motion.start = Keep(Mv_GuardPose(character));
+  for (int i = 0; i < mv.motion.phase_count; ++i) {
+    mot::Phase& ph = mv.motion.phases[i];
+    ph.pose = Keep(Mv_VictoryTouch(character, which, *ph.pose));
+  }
+  return mv;
+}
+
 }  // namespace
 
 void Mv_CharacterMoves(int character, std::vector<Move>& out) {
@@ -372,7 +411,7 @@ void Mv_CharacterMoves(int character, std::vector<Move>& out) {
   const Style& st = kStyles[character];
   // Attacks reach where they are used: the computer starts some from its far bands.
   auto attack = [&](const Row& row) {
-    Move mv = Build_Move(row.action, st, row);
+    Move mv = Build_Move(character, row.action, st, row);
     const int band = Mv_ReachBand(character, row.action);
     const float target = band > 0 ? static_cast<float>(band) : kCloseReach;
     Mv_FitReach(mv, character, target);
@@ -384,8 +423,9 @@ void Mv_CharacterMoves(int character, std::vector<Move>& out) {
   Add_Holds(character, st, out);
   attack(Row{241, Arch::LowPalm, 4, 0, false});
   attack(Row{242, Arch::LowKick, 8, 0, false});
-  out.push_back(Build_Move(12, st, Row{12, st.win1, 0, 0, false}));
-  out.push_back(Build_Move(13, st, Row{13, st.win2, 0, 0, false}));
+  out.push_back(Victory(character, 0, Build_Move(character, 12, st, Row{12, st.win1, 0, 0, false})));
+  out.push_back(Victory(character, 1, Build_Move(character, 13, st, Row{13, st.win2, 0, 0, false})));
+  out.push_back(Mv_IdleGuard(character));
   Add_Held(character, st, out);
   Add_Floor(character, out);
 }
@@ -394,7 +434,7 @@ Move Mv_StyledMove(int character, int action, int arch, int main_hit, int finish
   const Style& st = kStyles[character < 0 || character >= 15 ? 0 : character];
   Row row{static_cast<std::int16_t>(action), static_cast<Arch>(arch), static_cast<std::int16_t>(main_hit),
           static_cast<std::int16_t>(finish_hit), mirror};
-  return Build_Move(action, st, row);
+  return Build_Move(character < 0 || character >= 15 ? 0 : character, action, st, row);
 }
 
 int Mv_ProjectileKind(int character, int action) {

@@ -7,6 +7,7 @@
 
 #include "figures/fig_figure.h"
 #include "figures/fig_paint.h"
+#include "figures/fig_raster.h"
 #include "figures/fig_roster.h"
 #include "motion/mot_pose.h"
 #include "motion/mot_shared.h"
@@ -51,113 +52,40 @@ const Built& Row_Of(int row) {
   return *g_cache.rows[row];
 }
 
-struct Projected {
-  float x, y, z;  // pixels, pixels, camera depth
-  Vec3 n;         // camera-space normal
-};
-
-// Bilinear, repeating texture read; u and v run 0..255 over the texture once.
-Rgba Sample(const fig::Image* img, float u, float v) {
-  if (!img || img->width == 0) return Hex(0xB0B0B0);
-  float s = u / 255.0f * img->width - 0.5f, t = v / 255.0f * img->height - 0.5f;
-  float fs = std::floor(s), ft = std::floor(t);
-  float ax = s - fs, ay = t - ft;
-  int x0 = static_cast<int>(fs), y0 = static_cast<int>(ft);
-  float c[3] = {0, 0, 0};
-  for (int j = 0; j < 2; ++j)
-    for (int i = 0; i < 2; ++i) {
-      int x = ((x0 + i) % img->width + img->width) % img->width;
-      int y = ((y0 + j) % img->height + img->height) % img->height;
-      float k = (i ? ax : 1 - ax) * (j ? ay : 1 - ay);
-      const std::uint8_t* p = &img->rgb[(static_cast<std::size_t>(y) * img->width + x) * 3];
-      for (int q = 0; q < 3; ++q) c[q] += p[q] * k;
-    }
-  return {c[0] / 255.0f, c[1] / 255.0f, c[2] / 255.0f, 1.0f};
-}
-
-struct Raster {
-  Canvas c;
-  std::vector<float> depth;
-};
-
-void Triangle(Raster& r, const Projected p[3], const float uv[3][2], const fig::Image* img, const Shot& shot) {
-  float minx = std::min({p[0].x, p[1].x, p[2].x}), maxx = std::max({p[0].x, p[1].x, p[2].x});
-  float miny = std::min({p[0].y, p[1].y, p[2].y}), maxy = std::max({p[0].y, p[1].y, p[2].y});
-  int x0 = std::max(0, static_cast<int>(std::floor(minx))), x1 = std::min(r.c.w - 1, static_cast<int>(maxx) + 1);
-  int y0 = std::max(0, static_cast<int>(std::floor(miny))), y1 = std::min(r.c.h - 1, static_cast<int>(maxy) + 1);
-  float area = (p[1].x - p[0].x) * (p[2].y - p[0].y) - (p[1].y - p[0].y) * (p[2].x - p[0].x);
-  if (std::fabs(area) < 1e-6f) return;
-  const Vec3 light = fig::Normalise(Vec3{-0.45f, 0.65f, -0.6f});  // camera space, toward the light
-  for (int y = y0; y <= y1; ++y)
-    for (int x = x0; x <= x1; ++x) {
-      float px = x + 0.5f, py = y + 0.5f;
-      float w0 = ((p[1].x - px) * (p[2].y - py) - (p[1].y - py) * (p[2].x - px)) / area;
-      float w1 = ((p[2].x - px) * (p[0].y - py) - (p[2].y - py) * (p[0].x - px)) / area;
-      float w2 = 1.0f - w0 - w1;
-      if (w0 < 0 || w1 < 0 || w2 < 0) continue;
-      float iz = w0 / p[0].z + w1 / p[1].z + w2 / p[2].z;
-      float z = 1.0f / iz;
-      std::size_t at = static_cast<std::size_t>(y) * r.c.w + x;
-      if (z >= r.depth[at]) continue;
-      r.depth[at] = z;
-      float u = (w0 * uv[0][0] / p[0].z + w1 * uv[1][0] / p[1].z + w2 * uv[2][0] / p[2].z) * z;
-      float v = (w0 * uv[0][1] / p[0].z + w1 * uv[1][1] / p[1].z + w2 * uv[2][1] / p[2].z) * z;
-      Vec3 n = fig::Normalise(p[0].n * w0 + p[1].n * w1 + p[2].n * w2);
-      if (n.z > 0) n = n * -1.0f;  // the side the camera sees
-      Rgba t = Sample(img, u, v);
-      float diffuse = std::max(0.0f, fig::Dot(n, light));
-      float edge = 1.0f - std::fabs(n.z);
-      float rim = edge * edge * edge * shot.rim_power;
-      r.c.px[at] = {Clamp01(t.r * (shot.ambient.r + shot.key.r * diffuse) + shot.rim.r * rim),
-                    Clamp01(t.g * (shot.ambient.g + shot.key.g * diffuse) + shot.rim.g * rim),
-                    Clamp01(t.b * (shot.ambient.b + shot.key.b * diffuse) + shot.rim.b * rim), 1.0f};
-    }
-}
-
 }  // namespace
 
 Canvas Render_Software(const Shot& shot) {
   const Built& b = Row_Of(shot.row);
-  const fig::Model& m = *b.model;
-  int ss = std::max(1, shot.supersample);
-  Raster r;
-  r.c = Make_Canvas(shot.width * ss, shot.height * ss);
-  r.depth.assign(r.c.px.size(), 1e30f);
+  const int ss = std::max(1, shot.supersample);
   mot::PartMatrix pose[22];
   mot::Mot_Solve(b.joints, shot.pose ? *shot.pose : mot::Mot_StancePose(), pose);
-  fig::Rot turn = fig::Then(fig::RotY(shot.yaw), fig::RotX(-shot.pitch));
-  float focal = r.c.h * shot.distance / shot.span;
-  static Projected scr[fig::kMaxVertices + 1];
-  for (int i = 1; i <= m.vertex_count; ++i) {
-    const fig::Vertex& vx = m.vertices[i];
-    int part = vx.part;
-    if (part == fig::P_FLEX) part = fig::P_CHEST;
-    if (part >= fig::P_FLAG_FIRST) {
-      int a = b.anchor[(part - fig::P_FLAG_FIRST) / 5];
-      part = a >= 2 ? a : fig::P_PELVIS;
-    }
-    const mot::PartMatrix& pm = pose[std::clamp(part, 2, 21)];
-    Vec3 world = fig::Apply(pm.r, Vec3{vx.x, vx.y, vx.z}) + pm.t - Vec3{shot.look_x, shot.look_y, 0};
-    Vec3 cam = fig::Apply(turn, world);
-    Projected& s = scr[i];
-    s.z = std::max(cam.z + shot.distance, 0.1f);
-    s.x = cam.x * focal / s.z + r.c.w * 0.5f;
-    s.y = r.c.h * 0.5f - cam.y * focal / s.z;
-    s.n = fig::Apply(turn, fig::Apply(pm.r, Vec3{vx.nx, vx.ny, vx.nz}));
+  fig::RasterTarget target;
+  fig::Raster_Clear(target, shot.width * ss, shot.height * ss);
+  fig::RasterView view;
+  view.turn = fig::Then(fig::RotY(shot.yaw), fig::RotX(-shot.pitch));
+  view.look = {shot.look_x, shot.look_y, 0};
+  view.distance = shot.distance;
+  view.focal = target.height * shot.distance / shot.span;
+  fig::RasterLight light;
+  light.toward = fig::Normalise(Vec3{-0.45f, 0.65f, -0.6f});  // from the upper front left
+  const Rgba* colours[3] = {&shot.ambient, &shot.key, &shot.rim};
+  float* into[3] = {light.ambient, light.key, light.rim};
+  for (int k = 0; k < 3; ++k) {
+    into[k][0] = colours[k]->r;
+    into[k][1] = colours[k]->g;
+    into[k][2] = colours[k]->b;
   }
-  for (int fi = 1; fi <= m.face_count; ++fi) {
-    const fig::Face& fc = m.faces[fi];
-    Projected p[3] = {scr[fc.a], scr[fc.b], scr[fc.c]};
-    float cross = (p[1].x - p[0].x) * (p[2].y - p[0].y) - (p[1].y - p[0].y) * (p[2].x - p[0].x);
-    bool two_sided = m.vertices[fc.a].part >= 35;
-    if (cross < 0 && !two_sided) continue;
-    float uv[3][2] = {{m.texcoords[fc.ta].u, m.texcoords[fc.ta].v},
-                      {m.texcoords[fc.tb].u, m.texcoords[fc.tb].v},
-                      {m.texcoords[fc.tc].u, m.texcoords[fc.tc].v}};
-    const fig::Image* img = fc.tex < static_cast<int>(b.skin.size()) ? &b.skin[fc.tex] : nullptr;
-    Triangle(r, p, uv, img, shot);
-  }
-  return ss > 1 ? Downsample(r.c, ss) : r.c;
+  light.rim_power = shot.rim_power;
+  fig::RasterFigure figure;
+  figure.model = b.model.get();
+  figure.pose = pose;
+  figure.anchor = b.anchor;
+  figure.skin = &b.skin;
+  fig::Raster_Figure(target, figure, view, light);
+  Canvas c = Make_Canvas(target.width, target.height);
+  for (std::size_t i = 0; i < c.px.size(); ++i)
+    c.px[i] = {target.rgba[i * 4], target.rgba[i * 4 + 1], target.rgba[i * 4 + 2], target.rgba[i * 4 + 3]};
+  return ss > 1 ? Downsample(c, ss) : c;
 }
 
 Canvas Render_Shot(const Shot& shot) {

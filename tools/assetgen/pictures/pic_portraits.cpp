@@ -48,11 +48,14 @@ Canvas Tall_Portrait(int character) {
   shot.row = character;
   shot.width = 256;
   shot.height = 384;
-  shot.yaw = 125;
-  shot.pitch = -4;
-  shot.look_y = Head_Centre(character) - 1.85f;
-  shot.look_x = 0.3f;
-  shot.span = 5.4f;
+  // Three-quarter view, the face lit from the front and filling the upper half.
+  shot.yaw = 152;
+  shot.pitch = -3;
+  shot.look_y = Head_Centre(character) - 0.9f;
+  shot.look_x = 0.15f;
+  shot.span = 3.9f;
+  shot.distance = 30;
+  shot.supersample = 4;
   shot.rim = Mix(Figure_Accent_Colour(character), Hex(0xFFFFFF), 0.4f);
   Canvas fig = Render_Shot(shot);
   Canvas shadow = fig;

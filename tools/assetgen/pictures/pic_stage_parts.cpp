@@ -168,13 +168,20 @@ void Mesas(Canvas& c, const StageLook& L, int base) {
   });
 }
 
+// The volcano stands far behind the fortress: its flank is hazed, lighter than the fortress's
+// walls and towers, so their silhouettes and lit windows stand clear in front of it.
 void Volcano(Canvas& c, const StageLook& L, int base) {
+  const Rgba flank = Mix(L.structure, L.haze, 0.45f);
   Shade_Wrapped(c, c.w * 0.5f, 520, base - 300, base, [&](float x, float y) {
     float top = base - 290 + std::fabs(x) * 0.55f;
     return (std::fabs(x) < 40 ? base - 260.0f : top) - y;
   }, [&](float x, float y) {
-    float lava = std::fabs(x + 12 * std::sin(y * 0.08f)) < 5 && y > base - 255 ? 1.0f : 0.0f;
-    return Mix(L.structure, L.lights, lava);
+    // A lava stream runs down the flank beside the central tower, from the crater's lip.
+    float lip = base - 290 + 60 * 0.55f;
+    float drop = y - lip;
+    float lava = std::fabs(x - 60 - 0.35f * drop + 3 * std::sin(y * 0.05f)) < 2.5f + 0.02f * drop && drop > 2 ? 1.0f : 0.0f;
+    float depth = Clamp01((y - (base - 290.0f)) / 290.0f);
+    return Mix(Mix(flank, Scale(flank, 0.7f), depth), L.lights, lava);
   });
   for (int k = 0; k < 16; ++k)
     Fill_Circle(c, c.w * 0.5f + 30 * std::sin(k * 1.7f) + k * 6, base - 280.0f - k * 14, 18.0f + k * 3,

@@ -50,14 +50,17 @@ const StageLook kStages[] = {
      Floor::Marble, Hex(0xC8C4BC), Hex(0x8A8680), 12},
 };
 
-// The light pool on the lit stages: a warm, soft round of light (alpha-blended on the floor).
+// The light pool on the lit stages: a lamp's round of warm light under the fighters. The pool
+// is laid over the floor with plain alpha blending, so it stays faint (a floor keeps its own
+// colour under it) and falls off to nothing well inside the pool's square, which follows the
+// camera and must not show its edges.
 void Light_Pool(Output& out) {
   Canvas c = Make_Canvas(256, 256);
   for (int y = 0; y < 256; ++y)
     for (int x = 0; x < 256; ++x) {
       float d = std::hypot(x - 127.5f, y - 127.5f) / 128;
-      float k = Smooth(0.75f, 0.15f, d) * 0.55f + Smooth(1.0f, 0.0f, d) * 0.15f;
-      c.at(x, y) = {1.0f, 0.96f, 0.85f, k};
+      float k = Smooth(0.5f, 0.08f, d) * 0.16f + Smooth(0.75f, 0.3f, d) * 0.04f;
+      c.at(x, y) = {1.0f, 0.9f, 0.72f, k};
     }
   Save_Rgba(out, "LIGHT.bmp", c);
 }

@@ -1,5 +1,5 @@
-// A small software rasteriser for looking at figures: textured, depth-tested triangles with the
-// game's back-face rule, drawn into an RGB canvas.
+// Contact sheets for looking at figures: RGB canvases the figures' own rasteriser
+// (figures/fig_raster.h) draws into, and PNG output.
 #pragma once
 #include <cstdint>
 #include <vector>
