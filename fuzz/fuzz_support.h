@@ -1,37 +1,65 @@
-// Shared by the fuzz targets: run a reader on bytes written to a file, with the program's
-// exit paths turned into a return so that a refusal that ends the game is not a crash.
+// Shared by the fuzz targets: the readers' files served from memory (nothing touches the
+// disk, nothing is left behind), quiet loaders, and the program's exit paths turned into a
+// return so that a refusal that ends the game is not a crash.
 #pragma once
+#include <strings.h>
+
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <unistd.h>
 
+#include "platform/headless/headless.h"
 #include "platform/headless/headless_catch.h"
+#include "platform/platform.h"
 
 namespace fuzz {
 
-// Runs in a private temporary directory, created on first use.
-inline void enter_work_dir() {
-  static bool entered = false;
-  if (entered) return;
-  char templ[] = "/tmp/valdrune-fuzz-XXXXXX";
-  if (mkdtemp(templ) == nullptr || chdir(templ) != 0) std::abort();
-  std::freopen("/dev/null", "w", stdout);  // loaders' messages
-  entered = true;
+// The files the readers can open: a name and bytes that stay valid while the file is set.
+struct MemoryFile {
+  const char* name;
+  const std::uint8_t* data;
+  std::size_t size;
+};
+inline MemoryFile Files[8];
+inline int FileCount = 0;
+
+inline bool serve(const char* name, const std::uint8_t** data, std::size_t* size) {
+  for (int i = 0; i < FileCount; ++i)
+    if (strcasecmp(Files[i].name, name) == 0) {
+      *data = Files[i].data;
+      *size = Files[i].size;
+      return true;
+    }
+  return false;  // every other name is missing
 }
 
-inline void write_file(const char* name, const std::uint8_t* data, std::size_t size) {
-  std::FILE* f = std::fopen(name, "wb");
-  if (f == nullptr) std::abort();
-  if (size) std::fwrite(data, 1, size, f);
-  std::fclose(f);
+// Once per process: files from memory, loaders' messages and diagnostic lines silenced.
+inline void start() {
+  static bool started = false;
+  if (started) return;
+  Plat_SetFileSource(serve);
+  Headless_SetQuietDiagnostics(true);
+  if (std::freopen("/dev/null", "w", stdout) == nullptr) std::abort();  // loaders' messages
+  started = true;
 }
 
-// Calls `read` (which loads from the file written just before); returns the exit status the
-// reader ended the program with, or -1 when it returned normally.
+// Makes `name` readable with these bytes (replacing an earlier file of that name).
+inline void set_file(const char* name, const std::uint8_t* data, std::size_t size) {
+  start();
+  for (int i = 0; i < FileCount; ++i)
+    if (strcasecmp(Files[i].name, name) == 0) {
+      Files[i] = {name, data, size};
+      return;
+    }
+  if (FileCount == static_cast<int>(sizeof Files / sizeof Files[0])) std::abort();
+  Files[FileCount++] = {name, data, size};
+}
+
+// Calls `read`; returns the exit status the reader ended the program with, or -1 when it
+// returned normally.
 template <typename F>
 int run_reader(F read) {
-  enter_work_dir();
+  start();
   return Headless_CatchExit(read);
 }
 

@@ -2,8 +2,8 @@
 #include "loader_fuzz_setup.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  fuzz::enter_gl_work_dir();
-  fuzz::write_file("IN.BMP", data, size);
+  fuzz::start_gl();
+  fuzz::set_file("IN.BMP", data, size);
   fuzz::run_reader([size] {
     Reset_Textures();
     Textures.Texture_Repeat = size & 1;

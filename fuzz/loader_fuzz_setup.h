@@ -11,14 +11,14 @@
 
 namespace fuzz {
 
-inline void enter_gl_work_dir() {
+inline void start_gl() {
   static bool ready = false;
   if (ready) return;
-  enter_work_dir();
+  start();
   if (!Plat_OpenWindow("fuzz")) std::abort();
-  const std::uint8_t skin[6 + 2 * 2 * 3] = {2, 0, 2, 0, 3, 0, 200, 10, 10, 10, 200, 10,
-                                            10, 10, 200, 90, 90, 90};
-  for (const char* name : {"T.BMP", "A1.BMP", "A2.BMP"}) write_file(name, skin, sizeof skin);
+  static const std::uint8_t skin[6 + 2 * 2 * 3] = {2, 0, 2, 0, 3, 0, 200, 10, 10, 10, 200, 10,
+                                                   10, 10, 200, 90, 90, 90};
+  for (const char* name : {"T.BMP", "A1.BMP", "A2.BMP"}) set_file(name, skin, sizeof skin);
   ready = true;
 }
 

@@ -3,8 +3,8 @@
 #include "loader_fuzz_setup.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  fuzz::enter_gl_work_dir();
-  fuzz::write_file("IN.3DM", data, size);
+  fuzz::start_gl();
+  fuzz::set_file("IN.3DM", data, size);
   fuzz::run_reader([size] {
     Reset_Textures();
     Textures.Texture_Count = size % 3 == 0 ? 990 : 0;  // also near the end of the table

@@ -8,8 +8,7 @@
 #include "settings/settings.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  fuzz::enter_work_dir();
-  fuzz::write_file("OPTION.CFG", data, size);
+  fuzz::set_file("OPTION.CFG", data, size);
   Settings = SettingsState{};
   fuzz::run_reader([] { Settings_Load(); });
   const bool sane = Settings.frame_rate >= 40 && Settings.frame_rate <= 80 &&

@@ -7,7 +7,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size < 1) return 0;
-  fuzz::write_file("f.tbl", data + 1, size - 1);
+  fuzz::set_file("f.tbl", data + 1, size - 1);
   const bool shared = (data[0] & 1) == 0;
   fuzz::run_reader([&] {
     if (shared) Load_PreloadTBL("f.tbl", 1);

@@ -27,7 +27,12 @@ install_packages() {
   DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }
 
+# Every script configures build/ the same way, so that running one after another never
+# reconfigures and rebuilds it. Arguments name the targets to build (default: all).
 build_game() {
-  cmake -S "$ROOT" -B "$ROOT/build" -DCMAKE_BUILD_TYPE=RelWithDebInfo "$@"
-  cmake --build "$ROOT/build" -j "$(nproc)"
+  cmake -S "$ROOT" -B "$ROOT/build" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DVALDRUNE_BENCH=ON \
+    -DVALDRUNE_GENERATE_DATA=ON -DVALDRUNE_REAL=ON -DVALDRUNE_TESTS=ON
+  local targets=()
+  for t in "$@"; do targets+=(--target "$t"); done
+  cmake --build "$ROOT/build" -j "$(nproc)" "${targets[@]}"
 }

@@ -1,6 +1,8 @@
 // Reading ".3DM" files: counts checked against the records before anything is read.
 #include "assets/asset_3dm.h"
 
+#include "assets/asset_report.h"
+
 #include <bit>
 #include <cstring>
 
@@ -31,6 +33,7 @@ struct Source {
 bool read_bytes(const Source& src, std::uint8_t* buf, int size, const char* what) {
   if (std::fread(buf, 1, size, src.file) == static_cast<std::size_t>(size)) return true;
   std::printf("%s ERROR(%s): the file ends inside its %s!!!\r", src.rules.loader, src.name, what);
+  Load_Refused(src.name, "too short: the file ends inside its %s", what);
   return false;
 }
 
@@ -43,11 +46,13 @@ bool read_count(const Source& src, const char* field, int limit, std::int32_t& c
   if (count > limit) {
     std::printf("%s ERROR(%s): %s[%d].%s is too large!!!\r", r.loader, src.name, r.record,
                 r.index, field);
+    Load_Refused(src.name, "%s %d is past the record's capacity of %d", field, count, limit);
     return false;
   }
   if (count < 0) {
     std::printf("%s ERROR(%s): %s[%d].%s is negative!!!\r", r.loader, src.name, r.record, r.index,
                 field);
+    Load_Refused(src.name, "damaged: %s is %d", field, count);
     return false;
   }
   return true;
@@ -65,11 +70,18 @@ bool read_vertices(const Source& src, MeshFile& out) {
     if (v.part < 0 || v.part >= MODEL_PART_SLOTS) {
       std::printf("%s ERROR(%s): %s[%d] vertex %d has part number %d!!!\r", src.rules.loader,
                   src.name, src.rules.record, src.rules.index, i, v.part);
+      Load_Refused(src.name, "damaged: vertex %d has part number %d (0 to %d)", i, v.part,
+                   MODEL_PART_SLOTS - 1);
       return false;
     }
-    if (v.part >= MODEL_FLAG_PART && (v.part - MODEL_FLAG_PART) / 5 >= ATTACHMENTS)
+    if (v.part >= MODEL_FLAG_PART && (v.part - MODEL_FLAG_PART) / 5 >= ATTACHMENTS) {
       std::printf("\r\r%s file flag_index_number over(%d)\r\r", src.name,
                   (v.part - MODEL_FLAG_PART) / 5);
+      std::fflush(stdout);
+      Load_Refused(src.name, "vertex %d is a point of attachment %d, past the last (%d)", i,
+                   (v.part - MODEL_FLAG_PART) / 5, ATTACHMENTS - 1);
+      Report_GoesOn("the point is left out");
+    }
   }
   return true;
 }
@@ -116,10 +128,13 @@ bool read_texture_names(const Source& src, int base, MeshFile& out) {
   out.textures = le32(buf);
   if (out.textures < 0) {
     std::printf("%s ERROR(%s): the texture count is negative!!!\r", src.rules.loader, src.name);
+    Load_Refused(src.name, "damaged: the texture count is %d", out.textures);
     return false;
   }
   if (out.textures > TEXTURE_SLOTS - 1 - base) {  // the names must fit below slot 999
     std::printf("%s ERROR(%s): Max_Texture is too large!!!\r", src.rules.loader, src.name);
+    Load_Refused(src.name, "%d textures do not fit the %d texture slots left", out.textures,
+                 TEXTURE_SLOTS - 1 - base);
     return false;
   }
   for (int j = 0; j < out.textures; ++j) {
@@ -128,6 +143,7 @@ bool read_texture_names(const Source& src, int base, MeshFile& out) {
     if (std::memchr(name, 0, TEXTURE_NAME_SIZE) == nullptr) {
       std::printf("%s ERROR(%s): texture name %d is not terminated!!!\r", src.rules.loader,
                   src.name, j);
+      Load_Refused(src.name, "damaged: texture name %d is not terminated", j);
       return false;
     }
   }
@@ -143,11 +159,14 @@ bool check_faces(const Source& src, const MeshFile& m) {
       if (f.vtx[c] >= 1 && f.vtx[c] <= m.max_vtx && f.uv[c] >= 1 && f.uv[c] <= m.max_uv) continue;
       std::printf("%s ERROR(%s): %s[%d] face %d names a vertex or coordinate not in the file!!!\r",
                   src.rules.loader, src.name, src.rules.record, src.rules.index, i);
+      Load_Refused(src.name, "damaged: face %d names a vertex or coordinate not in the file", i);
       return false;
     }
     if (f.slot < 0 || f.slot >= m.textures) {
       std::printf("%s ERROR(%s): %s[%d] face %d uses texture %d of %d!!!\r", src.rules.loader,
                   src.name, src.rules.record, src.rules.index, i, f.slot, m.textures);
+      Load_Refused(src.name, "damaged: face %d uses texture %d of the file's %d", i, f.slot,
+                   m.textures);
       return false;
     }
   }
@@ -164,7 +183,16 @@ bool Read_3DM(std::FILE* file, const char* name, const MeshRules& rules, int bas
          read_parts(src, out) && read_texture_names(src, base, out) && check_faces(src, out);
 }
 
-bool Load_MeshTextures(const MeshFile& mesh, int base, int replaced, std::int32_t* face_slot) {
+void Load_RefusedPart(const char* what, const char* model) {
+  char file[200];
+  char reason[160];
+  std::snprintf(file, sizeof file, "%s (%s of %s)", Report_File(), what, model);
+  std::snprintf(reason, sizeof reason, "%s", Report_Reason());
+  Load_Refused(file, "%s", reason);
+}
+
+bool Load_MeshTextures(const char* model, const MeshFile& mesh, int base, int replaced,
+                       std::int32_t* face_slot) {
   for (int j = 0; j < mesh.textures; ++j)
     std::memcpy(Textures.TextureFile[base + j], mesh.texture[j], TEXTURE_NAME_SIZE);
   if (face_slot != nullptr) *face_slot = Textures.Texture_Count;
@@ -173,6 +201,9 @@ bool Load_MeshTextures(const MeshFile& mesh, int base, int replaced, std::int32_
     if (!Load_TextureSlot(Textures.TextureFile[base + j], Textures.Texture_Count)) {
       std::printf("Texture Loading Error %s", Textures.TextureFile[base + j]);
       std::printf("%d\n", base + j);
+      char what[32];
+      std::snprintf(what, sizeof what, "texture %d", j);
+      Load_RefusedPart(what, model);
       return false;
     }
     ++Textures.Texture_Count;

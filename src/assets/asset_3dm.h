@@ -37,5 +37,11 @@ MeshFile& Mesh_Scratch();
 // Copies the model's texture names to TextureFile[base...] and loads them into slots from
 // Texture_Count on, while slots remain. The face texture slot (when asked for) is the one
 // texture number `replaced` lands in, else the first. On a failure prints
-// "Texture Loading Error %s" and "%d\n" (the name's index) and returns false.
-bool Load_MeshTextures(const MeshFile& mesh, int base, int replaced, std::int32_t* face_slot);
+// "Texture Loading Error %s" and "%d\n" (the name's index), records the failure as the
+// picture's, naming `model`, and returns false.
+bool Load_MeshTextures(const char* model, const MeshFile& mesh, int base, int replaced,
+                       std::int32_t* face_slot);
+
+// Renames the failure just recorded for a picture as "NAME (WHAT of MODEL)", e.g.
+// "GONE.BMP (the first alternate face of ban.3dm)".
+void Load_RefusedPart(const char* what, const char* model);

@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include "assets/asset_le.h"
+#include "assets/asset_report.h"
 #include "fight/fight_state.h"
 #include "platform/platform.h"
 
@@ -42,31 +43,36 @@ int records_per_key(const AnimFile& f) {
 enum class Read { Ok, NotOpened, Refused };
 
 // Opens `name`, checks its counts against `key_capacity` and reads its records into Staging.
-Read read_anim_file(const char* name, const char* who, int key_capacity, AnimFile* f) {
+// A refusal records its reason.
+Read read_anim_file(const char* name, int key_capacity, AnimFile* f) {
   if (!Anim_KindOfName(name, &f->kind)) {
-    std::printf("%s ERROR(%s): the file name gives no animation kind\n", who, name);
+    Load_Refused(name, "the name has no extension to tell the animation kind");
     return Read::Refused;
   }
   std::FILE* file = Plat_OpenFile(name, "rb");
-  if (file == nullptr) return Read::NotOpened;
+  if (file == nullptr) {
+    Load_NotOpened(name);
+    return Read::NotOpened;
+  }
   std::uint8_t head[4];
-  if (std::fread(head, 1, sizeof head, file) != sizeof head) {
+  const std::size_t head_got = std::fread(head, 1, sizeof head, file);
+  if (head_got != sizeof head) {
     std::fclose(file);
-    std::printf("%s ERROR(%s): the file is short\n", who, name);
+    Load_Refused(name, "too short: %zu bytes, less than the 4-byte head", head_got);
     return Read::Refused;
   }
   f->last_key = le::i16(head);
   f->last_part = le::i16(head + 2);
   if (f->last_key < 0 || f->last_key >= key_capacity) {
     std::fclose(file);
-    std::printf("%s ERROR(%s): last key frame %d is outside 0..%d\n", who, name, f->last_key,
-                key_capacity - 1);
+    Load_Refused(name, "last key frame %d is past the capacity (0 to %d)", f->last_key,
+                 key_capacity - 1);
     return Read::Refused;
   }
   if (f->last_part < ANIM_FIRST_PART || f->last_part > ANIM_LAST_PART) {
     std::fclose(file);
-    std::printf("%s ERROR(%s): last part %d is outside %d..%d\n", who, name, f->last_part,
-                ANIM_FIRST_PART, ANIM_LAST_PART);
+    Load_Refused(name, "last part %d is outside %d to %d", f->last_part, ANIM_FIRST_PART,
+                 ANIM_LAST_PART);
     return Read::Refused;
   }
   const std::size_t need = static_cast<std::size_t>(f->last_key + 1) * records_per_key(*f) *
@@ -74,7 +80,8 @@ Read read_anim_file(const char* name, const char* who, int key_capacity, AnimFil
   const std::size_t got = std::fread(Staging, 1, need, file);
   std::fclose(file);
   if (got != need) {
-    std::printf("%s ERROR(%s): the file is short\n", who, name);
+    Load_Refused(name, "too short: %zu of the %zu record bytes its %d key frames need", got, need,
+                 f->last_key + 1);
     return Read::Refused;
   }
   return Read::Ok;
@@ -154,7 +161,7 @@ void Unpack_Row(std::int32_t v, std::int16_t out[3]) {
 
 bool Load_PreloadFA(const char* name) {
   AnimFile f;
-  if (read_anim_file(name, "Load_PreloadFA", SHARED_KEYS, &f) != Read::Ok) return false;
+  if (read_anim_file(name, SHARED_KEYS, &f) != Read::Ok) return false;
   decode_keys(f, [](int k, const KeyParts& key) {
     for (int i = 0; i < ANIM_PARTS; ++i) {
       if (!key.set[i]) continue;
@@ -176,7 +183,7 @@ bool Load_FA(const char* name, const char* skeleton, int player) {
   Load_BSC(skeleton);
   Fit_Skeleton(player);
   AnimFile f;
-  const Read r = read_anim_file(name, "Load_FA", CHARACTER_KEYS, &f);
+  const Read r = read_anim_file(name, CHARACTER_KEYS, &f);
   if (r == Read::NotOpened) std::printf("file open error %s", name);
   if (r != Read::Ok) return false;
   decode_keys(f, [player](int k, const KeyParts& key) {
@@ -191,25 +198,42 @@ bool Load_FA(const char* name, const char* skeleton, int player) {
   return true;
 }
 
-bool Load_BSC(const char* name) {
+namespace {
+
+// Stages a skeleton file into Anim.Skeleton; false with the reason recorded.
+bool read_bsc(const char* name) {
   std::FILE* file = Plat_OpenFile(name, "rb");
-  if (file == nullptr) return false;
+  if (file == nullptr) {
+    Load_NotOpened(name);
+    return false;
+  }
   std::uint8_t buf[2 + SKELETON_LAST_PART * 12];
   const std::size_t got = std::fread(buf, 1, sizeof buf, file);
   std::fclose(file);
-  const int n = got >= 2 ? le::i16(buf) : 0;
+  if (got < 2) {
+    Load_Refused(name, "too short: %zu bytes, less than the 2-byte count", got);
+    return false;
+  }
+  const int n = le::i16(buf);
   if (n < 1 || n > SKELETON_LAST_PART) {
-    std::printf("Load_BSC ERROR(%s): last part %d is outside 1..%d\n", name, n,
-                SKELETON_LAST_PART);
+    Load_Refused(name, "last part %d is outside 1 to %d", n, SKELETON_LAST_PART);
     return false;
   }
   const std::size_t need = 2 + static_cast<std::size_t>(n - 1) * 12;
   if (got < need) {
-    std::printf("Load_BSC ERROR(%s): the file is short\n", name);
+    Load_Refused(name, "too short: %zu of the %zu bytes its %d parts need", got, need, n);
     return false;
   }
   const std::uint8_t* cur = buf + 2;
   for (int p = 2; p <= n; ++p)
     for (int axis = 0; axis < 3; ++axis, cur += 4) Anim.Skeleton[p][axis] = le::f32(cur);
   return true;
+}
+
+}  // namespace
+
+bool Load_BSC(const char* name) {
+  if (read_bsc(name)) return true;
+  Report_GoesOn("the skeleton read before stays");
+  return false;
 }

@@ -5,6 +5,7 @@
 
 #include "assets/asset_anim.h"
 #include "assets/asset_model.h"
+#include "assets/asset_report.h"
 #include "assets/asset_table.h"
 #include "fight/fight_state.h"
 
@@ -110,7 +111,8 @@ bool Load_Character(int player) {
   if (player < 0 || player > 1) return false;
   const int r = select_slot[player];
   if (r < 0 || r >= CHARACTER_ROWS) {
-    std::printf("Load_Character: player %d has no character row (%d)\n", player, r);
+    Load_Refused("the character table", "fighter %d has no row %d (0 to %d)", player, r,
+                 CHARACTER_ROWS - 1);
     return false;
   }
   const CharacterRow& row = CharacterTable[r];
@@ -122,8 +124,20 @@ bool Load_Character(int player) {
   f.gain_b = 0;
   std::memset(f.frame_part, 0, sizeof f.frame_part);
 
-  if (!Load_FA(row.anim, row.skeleton, player)) std::printf("%d FX3 Error\n", player);
-  if (!Load_PreloadTBL("PRELOAD.TBL", player)) std::printf("Preload FX3 Table Error ");
-  if (!Load_TBL(row.table, player)) std::printf("%d Table Error\n", player);
+  if (!Load_FA(row.anim, row.skeleton, player)) {
+    std::printf("%d FX3 Error\n", player);
+    std::fflush(stdout);
+    Report_GoesOn("fighter %d keeps the key frames it had", player);
+  }
+  if (!Load_PreloadTBL("PRELOAD.TBL", player)) {
+    std::printf("Preload FX3 Table Error ");
+    std::fflush(stdout);
+    Report_GoesOn("fighter %d keeps the shared moves it had", player);
+  }
+  if (!Load_TBL(row.table, player)) {
+    std::printf("%d Table Error\n", player);
+    std::fflush(stdout);
+    Report_GoesOn("fighter %d keeps the moves it had", player);
+  }
   return true;
 }

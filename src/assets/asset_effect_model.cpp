@@ -3,6 +3,7 @@
 
 #include "assets/asset_3dm.h"
 #include "assets/asset_model.h"
+#include "assets/asset_report.h"
 #include "platform/platform.h"
 
 EffectModel Polygon_Sprite[EFFECT_MODELS];
@@ -11,8 +12,7 @@ namespace {
 
 [[noreturn]] void effect_failed(const char* code) {
   Textures.Texture_Repeat = 0;
-  Plat_DebugOut(code);
-  Plat_Exit(0);
+  Report_Stop(code, 0);
 }
 
 // The record keeps part records up to part 4; an effect file's further parts are read and
@@ -42,12 +42,14 @@ void Load_3DSprite(const char* file, int index) {
   Textures.Texture_Repeat = 1;
   std::FILE* f = Plat_OpenFile(file, "rb");
   if (f == nullptr) {
+    Load_NotOpened(file);
     std::printf("open error %s\n", file);
     effect_failed("015");
   }
   if (index < 0 || index >= EFFECT_MODELS) {
     std::fclose(f);
     std::printf("Load_3DSprite ERROR(%s): Polygon_Sprite[%d] does not exist!!!\r", file, index);
+    Load_Refused(file, "there is no effect model record %d to take it", index);
     effect_failed("015");
   }
   MeshFile& mesh = Mesh_Scratch();
@@ -56,6 +58,6 @@ void Load_3DSprite(const char* file, int index) {
   if (!ok) effect_failed("015");
 
   take_effect(index, mesh, base);
-  if (!Load_MeshTextures(mesh, base, -1, nullptr)) effect_failed("016");
+  if (!Load_MeshTextures(file, mesh, base, -1, nullptr)) effect_failed("016");
   Textures.Texture_Repeat = 0;
 }

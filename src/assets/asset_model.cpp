@@ -7,6 +7,7 @@
 
 #include "assets/asset_3dm.h"
 #include "assets/asset_character.h"
+#include "assets/asset_report.h"
 #include "fight/fight_state.h"
 #include "platform/platform.h"
 
@@ -19,14 +20,12 @@ namespace {
 // Ends the program after a refused or missing model file (the file is already closed).
 [[noreturn]] void model_refused() {
   Textures.Texture_Repeat = 0;
-  Plat_DebugOut("011");
-  Plat_Exit(1);
+  Report_Stop("011", 1);
 }
 
 [[noreturn]] void texture_failed(const char* code) {
   Textures.Texture_Repeat = 0;
-  Plat_DebugOut(code);
-  Plat_Exit(0);
+  Report_Stop(code, 0);
 }
 
 // Point k of attachment i: creates the attachment the first time a point names it.
@@ -84,11 +83,13 @@ void take_model(int player, const MeshFile& m, int base) {
 }
 
 // One alternate face picture into the next slot, while slots remain.
-void load_alternate(const char* name, std::int32_t& slot, const char* code) {
+void load_alternate(const char* name, const char* what, const char* model, std::int32_t& slot,
+                    const char* code) {
   if (Textures.Texture_Count >= TEXTURE_SLOTS) return;
   slot = Textures.Texture_Count;
   if (!Load_TextureSlot(name, Textures.Texture_Count)) {
     std::printf("Texture Loading Error %s", name);
+    Load_RefusedPart(what, model);
     texture_failed(code);
   }
   ++Textures.Texture_Count;
@@ -114,12 +115,14 @@ void Load_3DM(const char* file, int player, const char* alt1, const char* alt2) 
   Textures.Texture_Repeat = 1;
   std::FILE* f = Plat_OpenFile(file, "rb");
   if (f == nullptr) {
+    Load_NotOpened(file);
     std::printf("open error %s\n", file);
     model_refused();
   }
   if (player < 0 || player > 1) {
     std::fclose(f);
     std::printf("Load_3DM ERROR(%s): Knight[%d] does not exist!!!\r", file, player);
+    Load_Refused(file, "there is no fighter %d to take it", player);
     model_refused();
   }
   MeshFile& mesh = Mesh_Scratch();
@@ -129,11 +132,11 @@ void Load_3DM(const char* file, int player, const char* alt1, const char* alt2) 
 
   take_model(player, mesh, base);
   KnightModel& K = Knight[player];
-  if (!Load_MeshTextures(mesh, base, Model_ReplacedTexture(file), &K.face_slot))
+  if (!Load_MeshTextures(file, mesh, base, Model_ReplacedTexture(file), &K.face_slot))
     texture_failed("012");
   fighters[player].first_part = 2;
   fighters[player].last_part = K.max_tag;
-  load_alternate(alt1, K.alt1_slot, "013");
-  load_alternate(alt2, K.alt2_slot, "014");
+  load_alternate(alt1, "the first alternate face", file, K.alt1_slot, "013");
+  load_alternate(alt2, "the second alternate face", file, K.alt2_slot, "014");
   Textures.Texture_Repeat = 0;
 }

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "assets/asset_image.h"
+#include "assets/asset_report.h"
 
 TextureTable Textures = {};
 
@@ -60,6 +61,7 @@ bool Load_TextureSlot(const char* name, int slot) {
     Textures.Texture_Height = height;
   }
   if (!ok) {
+    if (slot < 0 || slot >= TEXTURE_SLOTS) Load_Refused(name, "no texture slot %d", slot);
     std::printf("\n%s error", name);
     // The slot was not handed out: drop the name generated for it, so that repeated
     // failures do not pile up texture objects.
@@ -82,14 +84,19 @@ void Reset_Textures() {
 bool Load_Raster(const char* name, int sprite, float depth) {
   if (Textures.Texture_Count >= TEXTURE_SLOTS) {
     std::printf("Load_Raster out ERROR\r");
+    Load_Refused(name, "not loaded: all %d texture slots are taken", TEXTURE_SLOTS);
+    Report_GoesOn("picture %d is not loaded", sprite);
     return false;
   }
   if (sprite < 0 || sprite >= SPRITE_COUNT) {
-    std::printf("Load_Raster ERROR(%s): sprite %d out of range\r", name, sprite);
+    Load_Refused(name, "not loaded: there is no picture %d (0 to %d)", sprite, SPRITE_COUNT - 1);
+    Report_GoesOn("the picture is not loaded");
     return false;
   }
   if (!Load_TextureSlot(name, Textures.Texture_Count)) {
     std::printf("Texture Loading Error %s", name);
+    std::fflush(stdout);
+    Report_GoesOn("picture %d is not loaded", sprite);
     return false;
   }
   Sprites.Raster_Slot[sprite] = Textures.Texture_Count;

@@ -4,8 +4,11 @@
 // once from its start. Every request is ignored while the sound setting is off, and fails
 // silently without a player or without the track's file.
 #include <cstdio>
+#include <cstring>
 
 #include "audio/audio.h"
+#include "audio/audio_missing.h"
+#include "platform/platform.h"
 #include "platform/platform_audio.h"
 #include "settings/settings.h"
 
@@ -21,16 +24,37 @@ CdPlayerState CdPlayer;
 
 bool sound_on() { return Settings.sound == 1; }
 
+void track_file_name(int track, char* out, std::size_t size) {
+  std::snprintf(out, size, "music/track%02d.ogg", track);
+}
+
 }  // namespace
 
 void Cd_Open() {
-  if (!Plat_MusicOpen()) return;
-  CdPlayer.open = 1;
-  for (std::int32_t track = TRACK_FIRST_STAGE; track <= TRACK_LAST; ++track) {
-    char name[32];
-    std::snprintf(name, sizeof name, "music/track%02d.ogg", static_cast<int>(track));
-    Plat_MusicLoadTrack(track, name);  // a missing file leaves that track silent
+  if (!Plat_MusicOpen()) {
+    Plat_DebugOut("valdrune: no music player; the game runs without music");
+    return;
   }
+  CdPlayer.open = 1;
+  MissingRun missing;
+  for (int track = TRACK_FIRST_STAGE; track <= TRACK_LAST; ++track) {
+    char name[32];
+    track_file_name(track, name, sizeof name);
+    // A missing file leaves that track silent; a file the player cannot play says so itself.
+    std::FILE* file = Plat_OpenFile(name, "rb");
+    if (file == nullptr && std::strcmp(Plat_OpenFailure(), "missing") == 0) {
+      Missing_Note(missing, track, track_file_name, "track");
+      continue;
+    }
+    Missing_Report(missing, track_file_name, "track");
+    if (file == nullptr) {
+      Plat_DebugOutf("valdrune: %s: %s; track %d stays silent", name, Plat_OpenFailure(), track);
+      continue;
+    }
+    std::fclose(file);
+    Plat_MusicLoadTrack(track, name);
+  }
+  Missing_Report(missing, track_file_name, "track");
 }
 
 void Music_PlayTrack(std::int32_t track) {

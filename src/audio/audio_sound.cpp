@@ -1,11 +1,15 @@
 // Sound effects: one buffer per sound number, the fight's per-frame queue, and the rules of
 // who may be heard when.
 #include <cstdio>
+#include <cstring>
 
 #include "audio/audio.h"
+#include "audio/audio_missing.h"
+#include "assets/asset_report.h"
 #include "audio/audio_wave.h"
 #include "fight/fight_replay.h"
 #include "fight/fight_state.h"
+#include "platform/platform.h"
 #include "platform/platform_audio.h"
 #include "settings/settings.h"
 
@@ -37,15 +41,30 @@ void sound_file_name(int sound, char* out, std::size_t size) {
   std::snprintf(out, size, sound < 100 ? "%02d.wav" : "%d.wav", sound);
 }
 
-// Loads one sound into its buffer; a failure leaves it empty.
+// Written by load_sound and Sound_Init.
+MissingRun Missing;
+
+// Loads one sound into its buffer; a failure leaves it empty and silent.
 void load_sound(int sound) {
   SoundEffect& e = SoundTable.effects[sound];
   sound_file_name(sound, e.file_name, sizeof e.file_name);
   WaveInfo wave;
-  if (!Wave_Load(e.file_name, &wave)) return;
+  if (!Wave_Load(e.file_name, &wave)) {
+    if (std::strcmp(Report_Reason(), "missing") == 0) {
+      Missing_Note(Missing, sound, sound_file_name, "sound");
+      return;
+    }
+    Missing_Report(Missing, sound_file_name, "sound");
+    Report_GoesOn("sound %d stays silent", sound);
+    return;
+  }
+  Missing_Report(Missing, sound_file_name, "sound");
   if (!Plat_SoundLoad(sound, wave.data, wave.bytes, wave.channels, wave.rate,
                       wave.block_align, wave.bits)) {
     Wave_Unload(wave);
+    Load_Refused(e.file_name, "a sample format the sound device refuses (%s, %d bits)",
+                 wave.channels == 2 ? "stereo" : "mono", wave.bits);
+    Report_GoesOn("sound %d stays silent", sound);
     return;
   }
   e.buffer_count = 1;
@@ -59,9 +78,13 @@ void Sound_Init() {
   SoundQueue = SoundQueueState{};
   for (std::int32_t& last : ChannelLastSound) last = 0;
   Wave_ResetPool();
-  if (!Plat_SoundOpen()) return;
+  if (!Plat_SoundOpen()) {
+    Plat_DebugOut("valdrune: no sound device; the game runs without sound effects");
+    return;
+  }
   SoundTable.device = 1;
   for (int sound = 0; sound < SOUND_FILES; ++sound) load_sound(sound);
+  Missing_Report(Missing, sound_file_name, "sound");
 }
 
 int Play_Effect(int sound) {

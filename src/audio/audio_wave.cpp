@@ -3,6 +3,7 @@
 
 #include <cstdio>
 
+#include "assets/asset_report.h"
 #include "platform/platform.h"
 
 namespace {
@@ -19,12 +20,6 @@ std::uint32_t read_u16(const std::uint8_t* p) {
 }
 std::uint32_t read_u32(const std::uint8_t* p) { return read_u16(p) | read_u16(p + 2) << 16; }
 
-void say_refused(const char* name, const char* why) {
-  char line[160];
-  std::snprintf(line, sizeof line, "sound %s: %s", name, why);
-  Plat_DebugOut(line);
-}
-
 }  // namespace
 
 void Wave_ResetPool() { Pool.used = 0; }
@@ -32,10 +27,16 @@ std::uint32_t Wave_PoolUsed() { return Pool.used; }
 
 int Wave_Load(const char* name, WaveInfo* out) {
   std::FILE* f = Plat_OpenFile(name, "rb");
-  if (f == nullptr) return 0;
+  if (f == nullptr) {
+    Load_NotOpened(name);
+    return 0;
+  }
   std::uint8_t header[WAVE_HEADER_BYTES];
-  if (std::fread(header, 1, sizeof header, f) != sizeof header) {
+  const std::size_t got = std::fread(header, 1, sizeof header, f);
+  if (got != sizeof header) {
     std::fclose(f);
+    Load_Refused(name, "too short: %zu bytes, less than the %d-byte header", got,
+                 WAVE_HEADER_BYTES);
     return 0;
   }
   WaveInfo w{};
@@ -45,7 +46,9 @@ int Wave_Load(const char* name, WaveInfo* out) {
   w.bits = static_cast<std::int32_t>(read_u16(header + 34));
   w.bytes = read_u32(header + 40);
   if (w.bytes > WAVE_POOL_BYTES - Pool.used) {
-    say_refused(name, "does not fit in the sound pool");
+    Load_Refused(name, "%lu sample bytes are past the %lu left of the sound pool",
+                 static_cast<unsigned long>(w.bytes),
+                 static_cast<unsigned long>(WAVE_POOL_BYTES - Pool.used));
     std::fclose(f);
     return 0;
   }
@@ -58,6 +61,8 @@ int Wave_Load(const char* name, WaveInfo* out) {
                   static_cast<unsigned long>(w.bytes), fileno(f));
     Plat_DebugOut(line);
     std::fclose(f);
+    Load_Refused(name, "too short: fewer sample bytes than the %lu its header gives",
+                 static_cast<unsigned long>(w.bytes));
     return 0;
   }
   std::fclose(f);

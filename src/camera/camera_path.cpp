@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstdio>
 
+#include "assets/asset_report.h"
 #include "camera/camera_fight.h"
 #include "fight/fight_state.h"
 #include "platform/platform.h"
@@ -30,19 +31,23 @@ float lef32(const std::uint8_t* p) {
 int read_points(std::FILE* f, const char* file) {
   std::uint8_t head[2];
   if (std::fread(head, 1, 2, f) != 2) {
-    std::printf("Camera path %s: no frame count\n", file);
+    Load_Refused(file, "too short: no frame count");
     return -1;
   }
   const int frames = static_cast<std::int16_t>(head[0] | (head[1] << 8));
-  if (frames < 0 || frames > CAMERA_PATH_FRAMES) {
-    std::printf("Camera path %s: %d frames, a path holds 0 to %d\n", file, frames,
-                CAMERA_PATH_FRAMES);
+  if (frames < 0) {
+    Load_Refused(file, "damaged: %d frames", frames);
+    return -1;
+  }
+  if (frames > CAMERA_PATH_FRAMES) {
+    Load_Refused(file, "%d frames are past the capacity of a path (0 to %d)", frames,
+                 CAMERA_PATH_FRAMES);
     return -1;
   }
   for (int k = 0; k < frames; ++k) {
     std::uint8_t rec[kRecordBytes];
     if (std::fread(rec, 1, kRecordBytes, f) != kRecordBytes) {
-      std::printf("Camera path %s: ends at frame %d of %d\n", file, k, frames);
+      Load_Refused(file, "too short: it ends at frame %d of %d", k, frames);
       return -1;
     }
     for (int axis = 0; axis < 3; ++axis) Incoming[k][axis] = lef32(rec + 4 * axis) / 5.0f;
@@ -54,14 +59,22 @@ int read_points(std::FILE* f, const char* file) {
 
 int LoadCameraPath(const char* file, int path, int slot) {
   if (path < 0 || path >= CAMERA_PATHS || slot < 0 || slot > 1) {
-    std::printf("Camera path %s: no path %d slot %d\n", file, path, slot);
+    Load_Refused(file, "there is no camera path %d slot %d", path, slot);
+    Report_GoesOn("the file is not read");
     return 0;
   }
   std::FILE* f = Plat_OpenFile(file, "rb");
-  if (f == nullptr) return 0;
+  if (f == nullptr) {
+    Load_NotOpened(file);
+    Report_GoesOn("camera path %d keeps what it held", path);
+    return 0;
+  }
   const int frames = read_points(f, file);
   std::fclose(f);
-  if (frames < 0) return 0;
+  if (frames < 0) {
+    Report_GoesOn("camera path %d keeps what it held", path);
+    return 0;
+  }
   CameraPathRecord& P = CameraPath[path];
   for (int k = 0; k < frames; ++k) {
     P.x[k][slot] = Incoming[k][0];

@@ -117,7 +117,7 @@ void do_pick(int p, const CpuPick& pick) { do_move(p, pick.moves[pick_index(p, p
 
 // ---- rules ---------------------------------------------------------------------------------
 
-// Rule 2: jumping or reeling (not thrown): an attack in the air when it can reach.
+// In the air: jumping or reeling (not thrown): an attack in the air when it can reach.
 bool in_the_air(int p) {
   if (!me(p).reacting || me(p).busy) return false;
   if (CpuAirAttackChance(p)) cpu_press(p, cpu_separation() >= 6.5f ? 4 : 2);
@@ -130,7 +130,7 @@ bool reactions(int p, const CpuRoutine& r) {
   return CpuProjectileReaction(p) || CpuDashReaction(p);
 }
 
-// Rule 4: whether to spend the gauge on a super move, and which.
+// The gauge: whether to spend the gauge on a super move, and which.
 bool spend_gauge(int p, const CpuRoutine& r) {
   const Fighter& f = me(p);
   const Fighter& o = them(p);
@@ -154,7 +154,7 @@ bool spend_gauge(int p, const CpuRoutine& r) {
   return true;
 }
 
-// Rule 5: the opponent is in the air and coming within reach.
+// The juggle: the opponent is in the air and coming within reach.
 bool juggle(int p, const CpuRoutine& r) {
   const Fighter& o = them(p);
   if (!o.reacting || o.busy) return false;
@@ -172,7 +172,7 @@ bool juggle(int p, const CpuRoutine& r) {
   return true;
 }
 
-// Rule 6 against a plain strike that is not low: answer from afar or from below.
+// The guard against a plain strike that is not low: answer from afar or from below.
 void counter_strike(int p, const CpuRoutine& r, float sep) {
   if (sep >= FAR) {
     if (CpuCanActAny(p)) do_move(p, r.guard_far);
@@ -198,7 +198,7 @@ void counter_strike(int p, const CpuRoutine& r, float sep) {
 
 enum class Guard { NONE, DONE, CLOSING };
 
-// Rule 6: the opponent has just started an action within reach: hold back first.
+// The guard: the opponent has just started an action within reach: hold back first.
 Guard guard(int p, const CpuRoutine& r) {
   const Fighter& f = me(p);
   const Fighter& o = them(p);
@@ -222,7 +222,7 @@ Guard guard(int p, const CpuRoutine& r) {
   return Guard::CLOSING;
 }
 
-// Rule 7: the opponent dodges: crouch, and punish the end of it.
+// The dodge: the opponent dodges: crouch, and punish the end of it.
 bool punish_dodge(int p) {
   const Fighter& o = them(p);
   const float sep = cpu_separation();
@@ -235,7 +235,7 @@ bool punish_dodge(int p) {
   return true;
 }
 
-// Rule 8a at 10 to 13, or closer when ready.
+// The attacking band: 10 to 13, or closer when ready.
 void attack_band(int p, const CpuRoutine& r, float sep) {
   if (!CpuCanActAny(p)) return;
   if (sep >= MID) {
@@ -251,7 +251,7 @@ void attack_band(int p, const CpuRoutine& r, float sep) {
   }
 }
 
-// Rule 8a: the distance bands.
+// From 5.5 out: the distance bands.
 void distance_bands(int p, const CpuRoutine& r, float sep) {
   if (sep >= CHARGE_FROM) {
     CpuChargeOrWalk(p);
@@ -284,7 +284,7 @@ void duck_under(int p) {
   }
 }
 
-// Rule 8b: a crouching opponent within reach.
+// A crouching opponent within reach, from 5.5 out.
 void crouching_target(int p, const CpuRoutine& r, float sep) {
   const Fighter& o = them(p);
   if (!(opponent_low_enough(p) || o.busy || sep >= NEAR_REACH)) {
@@ -309,7 +309,7 @@ void crouching_target(int p, const CpuRoutine& r, float sep) {
   }
 }
 
-// Rule 9: toe to toe.
+// Toe to toe: closer than 5.5.
 void close_quarters(int p, const CpuRoutine& r) {
   const Fighter& o = them(p);
   if (o.crouching) {

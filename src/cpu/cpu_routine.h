@@ -58,26 +58,26 @@ enum CpuGuardLow : std::uint8_t {
 };
 
 struct CpuRoutine {
-  // Rule 4: the super command by distance (10 or more, below) and stance (0, 23).
+  // The gauge: the super command by distance (10 or more, below) and stance (0, 23).
   CpuPick super_far0, super_far23, super_near0, super_near23;
-  // Rule 5: the juggle against an opponent in the air, at 10 or more and below.
+  // The juggle against an opponent in the air, at 10 or more and below.
   CpuMove juggle_far, juggle_near;
   std::int8_t own_air_rule;  // routine 1: a rule of its own, with a stage-10 juggle
   CpuMove juggle_stage10;
-  // Rule 6 after the crouching-attack check: at 13 or more, and the style below 13.
+  // The guard against a plain strike: at 13 or more, and the style below 13.
   CpuMove guard_far;
   CpuGuardLow guard_low;
-  // Rule 8a's bands.
+  // The distance bands.
   CpuPick band13;                      // 13 to 16
   std::int8_t dash_on_retreat;         // 10 to 13: dash in on an opponent backing off
   CpuPick band10_stance0, band10_stance23;  // 10 to 13
   CpuPick close;                       // below 10, ready
-  // Against a crouching opponent: rule 8b at 13 or more, 10 to 13, below 10; rule 9.
+  // Against a crouching opponent: at 13 or more, 10 to 13, below 10; toe to toe.
   CpuMove crouch_far, crouch_mid, crouch_near;
   CpuMove crouch_close_even;
   CpuPick crouch_close_odd;
-  std::int8_t both_crouching_button;  // rule 9 when both crouch
-  // Rule 9 against a standing opponent.
+  std::int8_t both_crouching_button;  // toe to toe when both crouch
+  // Toe to toe against a standing opponent.
   CpuPick close_standing;
   std::int8_t reacts_to_throws;  // uses the projectile and dash reactions
   std::int8_t renews_down_hold;  // runs the down hold inside its closing steps

@@ -1,21 +1,10 @@
 // valdrune-headless: the game on the headless backend, for tests, screenshots and soak runs.
-//
-//   valdrune-headless --data DIR [--frames N] [--script FILE] [--shots OUTDIR --shot-every K]
-//                     [--start fight:S0:S1 | --start demo]
-//   valdrune-headless --data DIR --pose CHAR:ACTION:FRAME --out FILE.png
-//   valdrune-headless --data DIR --sheet OUTDIR
-//   valdrune-headless --data DIR --tournament N [--level L] [--usage]
-// --start enters a two-player match of select slots S0 and S1 (0..29), or a demonstration,
-// instead of the opening. --pose draws character row CHAR (0..29) in frame FRAME of ACTION
-// (counted from the action's first frame); --sheet writes OUTDIR/sheet-CC.png, the key poses
-// of each character. --tournament fights every character against every other, N rounds each
-// way, computer against computer at level L (default 70) without drawing, and prints a line
-// per character and a summary (--usage adds each character's action counts).
+// `valdrune-headless --help` lists the options; each is one row of the table below.
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-
+#include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -25,18 +14,90 @@
 #include "review/review_tournament.h"
 #include "review/review_trace.h"
 #include "shell/shell.h"
+#include "shell/shell_options.h"
 #include "shell/shell_prepare.h"
 
 namespace {
 
-int usage() {
-  std::fprintf(stderr,
-               "usage: valdrune-headless --data DIR [--frames N] [--script FILE]"
-               " [--shots OUTDIR --shot-every K] [--start fight:S0:S1 | --start demo]\n"
-               "       valdrune-headless --data DIR --pose CHAR:ACTION:FRAME --out FILE.png\n"
-               "       valdrune-headless --data DIR --sheet OUTDIR\n"
-               "       valdrune-headless --data DIR --tournament N [--level L] [--usage]\n");
-  return 2;
+constexpr const char* kProgram = "valdrune-headless";
+
+// What the command line asked for. Written only by the option table's parser.
+struct HeadlessArgs {
+  const char* data = nullptr;
+  const char* script = nullptr;
+  const char* shots = nullptr;
+  long frames = 0;  // 0: until the game quits
+  long every = 0;
+  const char* pose = nullptr;  // review tools
+  const char* out = nullptr;
+  const char* sheet = nullptr;
+  int pose_row = 0, pose_action = 0, pose_frame = 0;
+  long tournament = 0;  // rounds per pairing; 0: no tournament
+  long level = 70;      // the tournament's computer level
+  bool usage = false;
+  bool level_given = false;
+};
+HeadlessArgs Args;
+
+bool take_level(const char* v) {
+  char* end = nullptr;
+  Args.level = std::strtol(v, &end, 10);
+  Args.level_given = true;
+  return end != v && *end == '\0' && Args.level >= 20 && Args.level <= 200;
+}
+
+bool take_pose(const char* v) {
+  Args.pose = v;
+  return Review_ParsePose(v, &Args.pose_row, &Args.pose_action, &Args.pose_frame);
+}
+
+// clang-format off
+const OptionRow kOptions[] = {
+    {.name = "--data", .value = "DIR", .help = "the data set to run on (required)", .text = &Args.data},                      // data
+    {.name = "--frames", .value = "N", .help = "stop after N frames (without it: until the game quits)",
+     .number = &Args.frames, .low = 1, .high = INT_MAX},                                                                     // frames
+    {.name = "--script", .value = "FILE", .help = "key and pad events, one a line (see the README)", .text = &Args.script},  // script
+    {.name = "--shots", .value = "OUTDIR", .help = "write presented frames as PNG (with --shot-every)", .text = &Args.shots}, // shots
+    {.name = "--shot-every", .value = "K", .help = "every K-th presented frame (with --shots)",
+     .number = &Args.every, .low = 1, .high = INT_MAX},                                                                      // shot-every
+    {.name = "--start", .value = "fight:S0:S1|demo", .help = "straight to a match of select slots S0, S1 (0..29), or a demonstration",
+     .check = Shell_ParseStart},                                                                                             // start
+    {.name = "--pose", .value = "CHAR:ACTION:FRAME", .help = "draw one fighter in one frame of an action (with --out)",
+     .check = take_pose},                                                                                                    // pose
+    {.name = "--out", .value = "FILE.png", .help = "where --pose writes its picture", .text = &Args.out},                     // out
+    {.name = "--sheet", .value = "OUTDIR", .help = "a contact sheet per character, OUTDIR/sheet-CC.png", .text = &Args.sheet}, // sheet
+    {.name = "--trace", .value = "FILE", .help = "one line a frame of both fighters' state", .check = Review_TraceOpen},         // trace
+    {.name = "--tournament", .value = "N", .help = "every character against every other, N rounds each way, computer against computer",
+     .number = &Args.tournament, .low = 1, .high = 1000},                                                                    // tournament
+    {.name = "--level", .value = "L", .help = "the tournament's computer level, 20..200 (default 70)", .check = take_level},  // level
+    {.name = "--usage", .value = nullptr, .help = "the tournament also counts each character's actions", .flag = &Args.usage}, // usage
+};
+// clang-format on
+constexpr int kOptionCount = sizeof kOptions / sizeof kOptions[0];
+
+constexpr const char* kSynopsis =
+    "usage: valdrune-headless --data DIR [--frames N] [--script FILE]"
+    " [--shots OUTDIR --shot-every K] [--start fight:S0:S1 | --start demo]\n"
+    "       valdrune-headless --data DIR --pose CHAR:ACTION:FRAME --out FILE.png\n"
+    "       valdrune-headless --data DIR --sheet OUTDIR\n"
+    "       valdrune-headless --data DIR --tournament N [--level L] [--usage]\n"
+    "Runs the game off-screen on a virtual clock and prints a last line\n"
+    "\"frames=N presented=P mode=M exit=S\".";
+
+// The rules between options; false with the refusal printed.
+bool options_agree() {
+  const char* problem = nullptr;
+  if (Args.data == nullptr) problem = "--data DIR is required";
+  else if ((Args.shots != nullptr) != (Args.every > 0))
+    problem = "--shots and --shot-every go together";
+  else if (Args.pose != nullptr && Args.out == nullptr) problem = "--pose needs --out";
+  else if (Args.out != nullptr && Args.pose == nullptr) problem = "--out is for --pose";
+  else if (Args.pose != nullptr && Args.sheet != nullptr)
+    problem = "--pose and --sheet are separate runs";
+  else if ((Args.level_given || Args.usage) && Args.tournament == 0)
+    problem = "--level and --usage are for --tournament";
+  if (problem != nullptr) Options_Refuse(kProgram, problem);
+  return problem == nullptr;
 }
 
 int current_mode() { return Shell.GameMode; }
@@ -56,69 +117,46 @@ void absolute(const char* path, char* out, std::size_t size) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const char* data = nullptr;
-  const char* script = nullptr;
-  const char* shots = nullptr;
-  long frames = 0;
-  int every = 0;
-  const char* pose = nullptr;   // review tools
-  const char* out = nullptr;
-  const char* sheet = nullptr;
-  TournamentOptions tournament;
-  int tournament_on = 0, level_given = 0;
-  for (int i = 1; i < argc; ++i) {
-    const bool has_value = i + 1 < argc;
-    if (!std::strcmp(argv[i], "--data") && has_value) data = argv[++i];
-    else if (!std::strcmp(argv[i], "--frames") && has_value) frames = std::atol(argv[++i]);
-    else if (!std::strcmp(argv[i], "--script") && has_value) script = argv[++i];
-    else if (!std::strcmp(argv[i], "--shots") && has_value) shots = argv[++i];
-    else if (!std::strcmp(argv[i], "--shot-every") && has_value) every = std::atoi(argv[++i]);
-    else if (!std::strcmp(argv[i], "--start") && has_value && Shell_ParseStart(argv[i + 1])) ++i;
-    else if (!std::strcmp(argv[i], "--pose") && has_value) pose = argv[++i];
-    else if (!std::strcmp(argv[i], "--out") && has_value) out = argv[++i];
-    else if (!std::strcmp(argv[i], "--sheet") && has_value) sheet = argv[++i];
-    else if (!std::strcmp(argv[i], "--tournament") && has_value &&
-             Review_ParseRounds(argv[i + 1], &tournament.rounds)) tournament_on = ++i;
-    else if (!std::strcmp(argv[i], "--level") && has_value &&
-             Review_ParseLevel(argv[i + 1], &tournament.level)) level_given = ++i;
-    else if (!std::strcmp(argv[i], "--usage")) tournament.usage = 1;
-    else if (!std::strcmp(argv[i], "--trace") && has_value && Review_TraceOpen(argv[i + 1])) ++i;
-    else return usage();
-  }
-  if (data == nullptr || frames < 0 || (shots != nullptr) != (every > 0)) return usage();
-  int row = 0, action = 0, frame = 0;
-  if (pose && (out == nullptr || sheet || !Review_ParsePose(pose, &row, &action, &frame)))
-    return usage();
-  if (out && !pose) return usage();
-  if ((level_given || tournament.usage) && !tournament_on) return usage();
+  if (const int status = Options_Read(kProgram, kSynopsis, kOptions, kOptionCount, argc, argv);
+      status >= 0)
+    return status;
+  if (!options_agree()) return OPTIONS_STATUS_REFUSED;
 
   char script_path[1100];
   char shots_path[1100];
-  if (script) absolute(script, script_path, sizeof script_path);
-  if (shots) absolute(shots, shots_path, sizeof shots_path);
-  if (shots && mkdir(shots_path, 0777) != 0 && errno != EEXIST) {
-    std::fprintf(stderr, "valdrune-headless: cannot make the screenshot directory %s\n", shots);
-    return 2;
+  if (Args.script) absolute(Args.script, script_path, sizeof script_path);
+  if (Args.shots) absolute(Args.shots, shots_path, sizeof shots_path);
+  if (Args.shots && mkdir(shots_path, 0777) != 0 && errno != EEXIST) {
+    std::fprintf(stderr, "%s: cannot make the screenshot directory %s\n", kProgram, Args.shots);
+    return OPTIONS_STATUS_REFUSED;
   }
   char review_path[1100];
-  if (out || sheet) absolute(out ? out : sheet, review_path, sizeof review_path);
+  if (Args.out || Args.sheet)
+    absolute(Args.out ? Args.out : Args.sheet, review_path, sizeof review_path);
 
-  if (script) {
+  if (Args.script) {
     char err[700];
     if (!Headless_LoadScript(script_path, err, sizeof err)) {
-      std::fprintf(stderr, "valdrune-headless: %s\n", err);
-      return 2;
+      std::fprintf(stderr, "%s: %s\n", kProgram, err);
+      return OPTIONS_STATUS_REFUSED;
     }
   }
-  if (chdir(data) != 0) {
-    std::fprintf(stderr, "valdrune-headless: cannot enter the data directory %s\n", data);
-    return 2;
+  if (chdir(Args.data) != 0) {
+    std::fprintf(stderr, "%s: --data: cannot enter %s (%s)\n", kProgram, Args.data,
+                 std::strerror(errno));
+    return OPTIONS_STATUS_REFUSED;
   }
-  if (pose) return Review_Pose(row, action, frame, review_path);
-  if (sheet) return Review_Sheets(review_path);
-  if (tournament_on) return Review_Tournament(tournament);
-  Headless_SetFrameLimit(frames);
-  if (shots) Headless_SetShots(shots_path, every);
+  if (Args.pose) return Review_Pose(Args.pose_row, Args.pose_action, Args.pose_frame, review_path);
+  if (Args.sheet) return Review_Sheets(review_path);
+  if (Args.tournament > 0) {
+    TournamentOptions t;
+    t.rounds = static_cast<int>(Args.tournament);
+    t.level = static_cast<int>(Args.level);
+    t.usage = Args.usage ? 1 : 0;
+    return Review_Tournament(t);
+  }
+  Headless_SetFrameLimit(Args.frames);
+  if (Args.shots) Headless_SetShots(shots_path, static_cast<int>(Args.every));
   Headless_SetModeProbe(current_mode);
 
   const int status = Game_Main();

@@ -80,6 +80,8 @@ void Plat_WaitMs(int ms);
 // ---- diagnostics and process -------------------------------------------------------------
 // A three-digit failure code (or another short text) on the diagnostic channel.
 void Plat_DebugOut(const char* text);
+// One line on the diagnostic channel, formatted like printf (cut at 511 characters).
+void Plat_DebugOutf(const char* format, ...) __attribute__((format(printf, 1, 2)));
 // Ends the process with this status after flushing standard output.
 [[noreturn]] void Plat_Exit(int status);
 
@@ -88,3 +90,12 @@ void Plat_DebugOut(const char* text);
 // ("BAN.BSC" and "ban.bsc"), so when the exact name does not exist the directory is searched
 // for a name that differs only in letter case. Write modes always use the exact name.
 std::FILE* Plat_OpenFile(const char* name, const char* mode);
+// Why the last Plat_OpenFile that returned null failed, in words: "missing" when no file of
+// that name exists, otherwise the system's reason ("Permission denied", ...).
+const char* Plat_OpenFailure();
+
+// Files served from memory instead of the working directory (fuzz targets): while a source
+// is set, every read-mode Plat_OpenFile asks it for the file's bytes and never touches the
+// disk; a name it does not know is missing. nullptr restores the directory.
+using Plat_FileSource = bool (*)(const char* name, const std::uint8_t** data, std::size_t* size);
+void Plat_SetFileSource(Plat_FileSource source);

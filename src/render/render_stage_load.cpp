@@ -2,6 +2,7 @@
 // floor of the front end, and the super-move pictures.
 #include <cstdio>
 
+#include "assets/asset_report.h"
 #include "fight/fight_state.h"
 #include "platform/platform.h"
 #include "render/render_stage.h"
@@ -45,10 +46,8 @@ constexpr std::int32_t kPanels[BACKDROP_PANELS][4] = {{0, 1, 5, 4}, {1, 2, 6, 5}
 void load_stage_picture(const char* name, std::int32_t* slot, const char* code) {
   if (Textures.Texture_Count >= TEXTURE_SLOTS) return;
   if (!Load_TextureSlot(name, Textures.Texture_Count)) {
-    Plat_DebugOut(code);
     std::printf("Texture Loading Error %s", name);
-    std::fflush(stdout);
-    Plat_Exit(0);
+    Report_Stop(code, 0);
   }
   *slot = Textures.Texture_Count++;
 }

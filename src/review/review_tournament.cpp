@@ -6,7 +6,6 @@
 
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
 
 #include "assets/asset_anim.h"
 #include "assets/asset_character.h"
@@ -168,18 +167,7 @@ void print_results(int usage) {
               fps);
 }
 
-bool parse_int(const char* text, int low, int high, int* out) {
-  char* end = nullptr;
-  const long v = std::strtol(text, &end, 10);
-  if (end == text || *end != '\0' || v < low || v > high) return false;
-  *out = static_cast<int>(v);
-  return true;
-}
-
 }  // namespace
-
-bool Review_ParseRounds(const char* text, int* rounds) { return parse_int(text, 1, 1000, rounds); }
-bool Review_ParseLevel(const char* text, int* level) { return parse_int(text, 20, 200, level); }
 
 int Review_Tournament(const TournamentOptions& options) {
   if (!open_fight()) {

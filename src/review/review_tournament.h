@@ -13,7 +13,3 @@ struct TournamentOptions {
 // "tournament rounds=R ko_share=S frames_per_second=FPS". Returns the program's exit status
 // (1, with a message, when the data set cannot be loaded).
 int Review_Tournament(const TournamentOptions& options);
-
-// "--tournament N" and "--level L" values: false when not a whole number in range.
-bool Review_ParseRounds(const char* text, int* rounds);
-bool Review_ParseLevel(const char* text, int* level);

@@ -1,8 +1,11 @@
 #include "settings/settings.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <unistd.h>
 
 #include "fight/fight_state.h"
 #include "input/input.h"
@@ -65,11 +68,41 @@ void Settings_Clamp() {
       if (!valid_mask(ButtonMask[p][slot])) ButtonMask[p][slot] = kDefaultMask[slot];
 }
 
+namespace {
+
+// A save that was cut short leaves its temporary file behind; the real file is whole either
+// way (the old one or the new one), so the leftover only goes.
+void remove_stale_temp() {
+  if (std::remove(kTempName) == 0)
+    Plat_DebugOutf("valdrune: %s: left by an interrupted save; removed", kTempName);
+}
+
+// Reads the file into the staging record; returns the bytes read, or -1 when there is none.
+int read_record() {
+  std::FILE* file = Plat_OpenFile(kFileName, "rb");
+  if (file == nullptr) {
+    if (std::strcmp(Plat_OpenFailure(), "missing") != 0)
+      Plat_DebugOutf("valdrune: %s: %s; the default settings stay", kFileName, Plat_OpenFailure());
+    return -1;
+  }
+  // A short file replaces only the start of the staging record.
+  const int got = static_cast<int>(std::fread(SettingsRecord, 1, SETTINGS_FILE_SIZE, file));
+  std::fclose(file);
+  return got;
+}
+
+}  // namespace
+
 void Settings_Load() {
-  if (std::FILE* file = Plat_OpenFile(kFileName, "rb")) {
-    // A short file replaces only the start of the staging record.
-    (void)std::fread(SettingsRecord, 1, SETTINGS_FILE_SIZE, file);
-    std::fclose(file);
+  remove_stale_temp();
+  const int got = read_record();
+  if (got >= 0 && SettingsRecord[0] != SETTINGS_VERSION) {
+    Plat_DebugOutf("valdrune: %s: %s; the default settings stay", kFileName,
+                   got == 0 ? "empty" : "not a settings file of version 13");
+  } else if (got >= 0 && got < SETTINGS_FILE_SIZE) {
+    Plat_DebugOutf("valdrune: %s: too short: %d of %d bytes; the settings it lacks stay as "
+                   "the record held them (zeros at start-up), brought into range",
+                   kFileName, got, SETTINGS_FILE_SIZE);
   }
   if (SettingsRecord[0] != SETTINGS_VERSION) return;
   Settings_Decode();
@@ -90,17 +123,44 @@ void Settings_Encode() {
     for (int slot = 0; slot < 4; ++slot) put16(10 + p * 8 + slot * 2, ButtonMask[p][slot]);
 }
 
+namespace {
+
+// The rename lives in the directory: until the directory itself reaches the disk, a power
+// cut can still bring back the old name.
+bool sync_directory() {
+  const int dir = open(".", O_RDONLY | O_DIRECTORY);
+  if (dir < 0) return false;
+  const bool ok = fsync(dir) == 0;
+  close(dir);
+  return ok;
+}
+
+void save_failed(const char* what) {
+  Plat_DebugOutf("valdrune: %s: %s (%s); the settings are not saved", kFileName, what,
+                 std::strerror(errno));
+}
+
+}  // namespace
+
 void Settings_Save() {
   Settings_Encode();
   // Write a temporary file beside the real one and rename it over, so that an interrupted
   // save leaves the old file whole.
   std::FILE* file = std::fopen(kTempName, "wb");
-  if (file == nullptr) return;
+  if (file == nullptr) {
+    save_failed("cannot write OPTION.CFG.tmp");
+    return;
+  }
   const bool written = std::fwrite(SettingsRecord, 1, SETTINGS_FILE_SIZE, file) ==
                            static_cast<std::size_t>(SETTINGS_FILE_SIZE) &&
                        std::fflush(file) == 0 && fsync(fileno(file)) == 0;
   const bool closed = std::fclose(file) == 0;
-  if (!written || !closed || std::rename(kTempName, kFileName) != 0) std::remove(kTempName);
+  if (!written || !closed || std::rename(kTempName, kFileName) != 0) {
+    save_failed("cannot replace the file");
+    std::remove(kTempName);
+    return;
+  }
+  if (!sync_directory()) save_failed("the directory could not be synced");
 }
 
 std::int32_t Settings_FrameRate() { return Settings.frame_rate > 0 ? Settings.frame_rate : 65; }

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "assets/asset_anim.h"
+#include "assets/asset_report.h"
 #include "audio/audio.h"
 #include "camera/camera_path.h"
 #include "fight/fight_moves.h"
@@ -68,6 +69,8 @@ int Game_Main() {
 
   if (!Plat_OpenWindow(kWindowTitle)) {
     std::printf("Error opening a window.\n");
+    std::fflush(stdout);
+    Plat_DebugOut("valdrune: fatal: no window could be opened; the game stops (exit status 0)");
     Plat_Exit(0);
   }
   MainWindow = Plat_FindWindow(kWindowTitle);
@@ -77,6 +80,7 @@ int Game_Main() {
   if (!Load_PreloadFA("PRELOAD.FA")) {
     std::printf("Preload FX3 Error ");
     std::fflush(stdout);
+    Report_Stops(1);
     return 1;
   }
   Build_AngleTables();

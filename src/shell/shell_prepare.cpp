@@ -4,6 +4,7 @@
 
 #include "assets/asset_character.h"
 #include "assets/asset_model.h"
+#include "assets/asset_report.h"
 #include "audio/audio.h"
 #include "cpu/cpu.h"
 #include "fight/fight_state.h"
@@ -50,10 +51,8 @@ struct FailureCodes {
 constexpr FailureCodes kMatchCodes = {"002", {"003", "004"}};
 constexpr FailureCodes kDemoCodes = {"005", {"006", "007"}};
 
-[[noreturn]] void fail(const char* code) {
-  Plat_DebugOut(code);
-  Plat_Exit(0);
-}
+// The diagnostic line names the file that failed last (the loaders record it).
+[[noreturn]] void fail(const char* code) { Report_Stop(code, 0); }
 
 // Up to the fight mode: music off, the fighters chosen, the versus picture, the fight's
 // pictures (the versus picture stays on screen while they load).

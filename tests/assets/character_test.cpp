@@ -9,6 +9,7 @@
 #include "assets/asset_character.h"
 #include "assets/asset_image.h"
 #include "assets/asset_model.h"
+#include "assets/asset_report.h"
 #include "assets/model_fixture.h"
 #include "assets/scratch_dir.h"
 #include "fight/fight_state.h"
@@ -78,12 +79,33 @@ TEST_F(CharacterLoad, MissingFilesAreReportedAndLoadingGoesOn) {
   fighters[0].frame_part[5] = 7;
   capture();
   EXPECT_TRUE(Load_Character(0));
+  // The game's own messages, as they always ran together; then a line a file each.
   EXPECT_EQ(captured(), "file open error eunyu.fa0 FX3 Error\nPreload FX3 Table Error 0 Table Error\n");
+  EXPECT_EQ(diagnostics(),
+            "valdrune: eunyu.bsc: missing; the skeleton read before stays\n"
+            "valdrune: eunyu.fa: missing; fighter 0 keeps the key frames it had\n"
+            "valdrune: PRELOAD.TBL: missing; fighter 0 keeps the shared moves it had\n"
+            "valdrune: eunyu.tbl: missing; fighter 0 keeps the moves it had\n");
   EXPECT_EQ(fighters[0].frame_part[5], 0);
-  select_slot[0] = 100;  // nobody's row
+
+  const std::uint8_t stub[7] = {};  // damaged files say what is wrong with them
+  write_bytes("PRELOAD.TBL", stub, sizeof stub);
+  write_bytes("eunyu.fa", stub, 3);
   capture();
+  EXPECT_TRUE(Load_Character(0));
+  captured();
+  EXPECT_NE(diagnostics().find("valdrune: eunyu.fa: too short: 3 bytes, less than the 4-byte head; "
+                               "fighter 0 keeps the key frames it had\n"),
+            std::string::npos)
+      << diagnostics();
+  EXPECT_NE(diagnostics().find("valdrune: PRELOAD.TBL: too short: 7 bytes, less than the 8004-byte"),
+            std::string::npos)
+      << diagnostics();
+
+  select_slot[0] = 100;  // nobody's row: the preparation that asked ends the game
   EXPECT_FALSE(Load_Character(0));
-  EXPECT_NE(captured(), "");
+  EXPECT_STREQ(Report_File(), "the character table");
+  EXPECT_STREQ(Report_Reason(), "fighter 0 has no row 100 (0 to 29)");
 }
 
 TEST(CharacterAttachments, LimitsAreOrderedAndSharedSetsFollow) {

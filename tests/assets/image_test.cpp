@@ -2,6 +2,7 @@
 #include <cstring>
 
 #include "assets/asset_image.h"
+#include "assets/asset_report.h"
 #include "assets/loader_harness.h"
 #include "writers/writer_image.h"
 
@@ -78,7 +79,7 @@ TEST_F(ImageTest, SlotsGoInOrderAFailureKeepsTheSlotAndResetStartsOver) {
   std::strcpy(Textures.TextureFile[0], "A.BMP");
 
   const auto failed = run([] { EXPECT_FALSE(Load_Raster("GONE.BMP", 1, 5.0f)); });
-  EXPECT_EQ(failed.err, "Loading Error GONE.BMP\n");
+  EXPECT_EQ(failed.err, "Loading Error GONE.BMP\nvaldrune: GONE.BMP: missing; picture 1 is not loaded\n");
   EXPECT_EQ(failed.out, "\nGONE.BMP errorTexture Loading Error GONE.BMP");
   EXPECT_EQ(Textures.Texture_Count, 1);
   EXPECT_EQ(Sprites.Raster_Slot[1], 0);  // the sprite keeps its picture
@@ -105,7 +106,8 @@ TEST_F(ImageTest, TheLastSlotFillsAndThenTheTableIsFull) {
   EXPECT_EQ(Textures.Texture_Count, 1000);
   const auto full = run([] { EXPECT_FALSE(Load_Raster("GONE.BMP", 5, 0.0f)); });
   EXPECT_EQ(full.out, "Load_Raster out ERROR\r");
-  EXPECT_EQ(full.err, "");  // the file is not even opened
+  // The file is not even opened.
+  EXPECT_EQ(full.err, "valdrune: GONE.BMP: not loaded: all 1000 texture slots are taken; picture 5 is not loaded\n");
   EXPECT_EQ(Textures.Texture_Count, 1000);
 }
 
@@ -118,11 +120,11 @@ TEST_F(ImageTest, TheStagingBufferTakesAFullSizePictureAndRefusesMore) {
   // Header fields, the pixel bytes that follow, and how much of the header is there.
   struct Bad { const char* name; int w, h, c, pixel_bytes, header_bytes; const char* reason; };
   const Bad cases[] = {
-      {"WIDE.BMP", 1025, 1, 3, 4000, 6, "WIDE.BMP: 1025 x 1 is larger than 1024 x 1024"},
-      {"TALL.BMP", 2, 1100, 4, 9000, 6, "TALL.BMP: 2 x 1100 is larger than 1024 x 1024"},
-      {"NEG.BMP", -4, 4, 3, 48, 6, "NEG.BMP: -4 x 4 has no pixels"},
-      {"SHORT.BMP", 4, 4, 4, 63, 6, "SHORT.BMP: shorter than its 4 x 4 header says"},
-      {"HEAD.BMP", 4, 4, 3, 0, 4, "HEAD.BMP: shorter than its header"},
+      {"WIDE.BMP", 1025, 1, 3, 4000, 6, "1025 x 1 pixels, larger than the 1024 x 1024 a picture may have"},
+      {"TALL.BMP", 2, 1100, 4, 9000, 6, "2 x 1100 pixels, larger than the 1024 x 1024 a picture may have"},
+      {"NEG.BMP", -4, 4, 3, 48, 6, "damaged: -4 x 4 pixels"},
+      {"SHORT.BMP", 4, 4, 4, 63, 6, "too short: 63 of the 64 pixel bytes its 4 x 4 header needs"},
+      {"HEAD.BMP", 4, 4, 3, 0, 4, "too short: 4 bytes, less than the 6-byte header"},
   };
   for (const Bad& b : cases) {
     SCOPED_TRACE(b.name);
@@ -132,7 +134,9 @@ TEST_F(ImageTest, TheStagingBufferTakesAFullSizePictureAndRefusesMore) {
     bytes.resize(bytes.size() + b.pixel_bytes, 0x55);
     ASSERT_TRUE(writer_bytes::save(b.name, bytes));
     const auto o = run([&] { EXPECT_FALSE(Load_TextureSlot(b.name, 0)); });
-    EXPECT_EQ(o.err, std::string("Loading Error ") + b.reason + "\n");
+    EXPECT_EQ(o.err, "");  // the caller reports it: it knows what follows
+    EXPECT_STREQ(Report_File(), b.name);
+    EXPECT_STREQ(Report_Reason(), b.reason);
     EXPECT_EQ(o.out, std::string("\n") + b.name + " error");
   }
 }

@@ -1,7 +1,10 @@
 // Fighter models: the round trip, the flexible part and flag points, texture slots and
 // alternate faces, and every refusal.
+#include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <functional>
+#include <string>
 #include <tuple>
 
 #include "assets/asset_model.h"
@@ -129,7 +132,10 @@ TEST_F(ModelLoad, MalformedModelsAreRefusedWithTheirMessageAndNothingIsWritten) 
     const auto o = run([] { Load_3DM("bad.3dm", 1, "ALT1.BMP", "ALT2.BMP"); });
     EXPECT_EQ(o.status, 1);
     EXPECT_EQ(o.out, c.message);
-    EXPECT_EQ(o.err, "011\n");
+    // The failure code, then the one line that says which file, why, and that the game stops.
+    EXPECT_EQ(o.err.rfind("011\nvaldrune: fatal: bad.3dm: ", 0), 0u) << o.err;
+    EXPECT_TRUE(o.err.ends_with("; the game stops (exit status 1)\n")) << o.err;
+    EXPECT_EQ(std::count(o.err.begin(), o.err.end(), '\n'), 2) << o.err;
     EXPECT_EQ(std::memcmp(Before, Knight, sizeof Knight), 0) << "a refused model wrote a record";
     EXPECT_EQ(std::memcmp(&fighter, &fighters[1], sizeof fighter), 0);
     EXPECT_EQ(Textures.Texture_Count, 0);
@@ -143,12 +149,16 @@ TEST_F(ModelLoad, MissingFilesEndTheProgramWithTheirCodes) {
   Model3DM lost = harness::sample_model(2);
   lost.textures[1] = "LOST.BMP";
   ASSERT_TRUE(writers::Write_3DM("lost.3dm", lost));
-  struct Case { const char* file; const char* alt1; const char* alt2; int status; std::string out, code; };
+  struct Case { const char* file; const char* alt1; const char* alt2; int status; std::string out, code, line; };
   const Case cases[] = {
-      {"none.3dm", "ALT1.BMP", "ALT2.BMP", 1, "open error none.3dm\n", "011"},
-      {"lost.3dm", "ALT1.BMP", "ALT2.BMP", 0, "\nLOST.BMP errorTexture Loading Error LOST.BMP1\n", "012"},
-      {"skin.3dm", "GONE.BMP", "ALT2.BMP", 0, "\nGONE.BMP errorTexture Loading Error GONE.BMP", "013"},
-      {"skin.3dm", "ALT1.BMP", "GONE.BMP", 0, "\nGONE.BMP errorTexture Loading Error GONE.BMP", "014"},
+      {"none.3dm", "ALT1.BMP", "ALT2.BMP", 1, "open error none.3dm\n", "011",
+       "none.3dm: missing"},
+      {"lost.3dm", "ALT1.BMP", "ALT2.BMP", 0, "\nLOST.BMP errorTexture Loading Error LOST.BMP1\n", "012",
+       "LOST.BMP (texture 1 of lost.3dm): missing"},
+      {"skin.3dm", "GONE.BMP", "ALT2.BMP", 0, "\nGONE.BMP errorTexture Loading Error GONE.BMP", "013",
+       "GONE.BMP (the first alternate face of skin.3dm): missing"},
+      {"skin.3dm", "ALT1.BMP", "GONE.BMP", 0, "\nGONE.BMP errorTexture Loading Error GONE.BMP", "014",
+       "GONE.BMP (the second alternate face of skin.3dm): missing"},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.code);
@@ -156,13 +166,27 @@ TEST_F(ModelLoad, MissingFilesEndTheProgramWithTheirCodes) {
     const auto o = run([&] { Load_3DM(c.file, 0, c.alt1, c.alt2); });
     EXPECT_EQ(o.status, c.status);
     EXPECT_EQ(o.out, c.out);
-    EXPECT_NE(o.err.find(c.code + "\n"), std::string::npos) << o.err;
+    // The code, then the fatal line last, even where the game's status is 0.
+    EXPECT_TRUE(o.err.ends_with(c.code + "\nvaldrune: fatal: " + c.line + "; the game stops (exit status " +
+                                std::to_string(c.status) + ")\n"))
+        << o.err;
   }
 }
 
+// The process that ends runs this test's set-up again in a directory of its own, and never
+// its tear-down: it removes that directory on its way out.
+std::string EndingDir;
+void remove_ending_dir() { std::system(("rm -rf '" + EndingDir + "'").c_str()); }
+
 TEST_F(ModelLoad, AMissingModelEndsTheProcessWithStatusOne) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
-  EXPECT_EXIT(Load_3DM("none.3dm", 0, "ALT1.BMP", "ALT2.BMP"), testing::ExitedWithCode(1), "011");
+  EndingDir = dir_;
+  EXPECT_EXIT(
+      {
+        std::atexit(remove_ending_dir);
+        Load_3DM("none.3dm", 0, "ALT1.BMP", "ALT2.BMP");
+      },
+      testing::ExitedWithCode(1), "011\nvaldrune: fatal: none.3dm: missing; the game stops");
 }
 
 }  // namespace

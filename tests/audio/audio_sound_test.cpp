@@ -58,7 +58,19 @@ TEST_F(AudioDir, BrokenWavesStaySilentAndLeaveTheOthersIntact) {
   header[32] = 4;
   ASSERT_EQ(Wave_WriteRaw("07.wav", header, samples, 400), 1);
   write_wave("08.wav", 100, 8);
+  testing::internal::CaptureStderr();
   Sound_Init();
+  const std::string err = testing::internal::GetCapturedStderr();
+  // Silent in play, but each file gets a line; a run of missing ones shares one.
+  for (const char* line : {
+           "valdrune: 00.wav: missing; sound 0 stays silent\n",
+           "valdrune: 02.wav: too short: fewer sample bytes than the 400 its header gives; sound 2 stays silent\n",
+           "valdrune: 04.wav: too short: 30 bytes, less than the 44-byte header; sound 4 stays silent\n",
+           "valdrune: 05.wav: 8388610 sample bytes are past the 8388408 left of the sound pool; sound 5 stays silent\n",
+           "valdrune: 06.wav: a sample format the sound device refuses (mono, 12 bits); sound 6 stays silent\n",
+           "valdrune: 09.wav to 177.wav: missing; sounds 9 to 177 stay silent\n"})
+    EXPECT_NE(err.find(line), std::string::npos) << line << err;
+  EXPECT_EQ(err.find("01.wav"), std::string::npos) << err;
 
   EXPECT_TRUE(Headless_SoundLoaded(1));
   for (int n = 2; n <= 6; ++n) EXPECT_FALSE(Headless_SoundLoaded(n)) << n;

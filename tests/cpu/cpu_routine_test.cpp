@@ -89,7 +89,7 @@ TEST_F(CpuRoutineTest, NotReadyItWalksBackBelowNinePointTwo) {
 
 TEST_F(CpuRoutineTest, EveryRoutineHoldsBackWhenTheOpponentStartsAnAction) {
   for (int c = 0; c < 15; ++c) {
-    for (const int o_action : {180, 597}) {  // a strike, and a dodge that rule 7 would answer
+    for (const int o_action : {180, 597}) {  // a strike, and a dodge that would be answered
       SetUp();
       Match.character[1] = c;
       place(15.0f);

@@ -89,15 +89,34 @@ TEST_F(SettingsFile, OutOfRangeValuesNeverReachTheGame) {
 }
 
 TEST_F(SettingsFile, MissingOrForeignFilesLeaveTheDefaults) {
-  Settings_Load();  // no file
+  testing::internal::CaptureStderr();
+  Settings_Load();  // no file: the first run, nothing to say
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
   EXPECT_EQ(Settings.frame_rate, 65);
   std::uint8_t file[26];
   std::memcpy(file, kDefaultFile, 26);
   file[0] = 12;  // another version
   file[1] = 4;
   write_bytes("OPTION.CFG", file, 26);
+  testing::internal::CaptureStderr();
   Settings_Load();
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "valdrune: OPTION.CFG: not a settings file of version 13; the default settings stay\n");
   EXPECT_EQ(Settings.difficulty, 2);
+}
+
+TEST_F(SettingsFile, AnInterruptedSavesTemporaryFileGoesAtStartUp) {
+  write_bytes("OPTION.CFG", kDefaultFile, 26);
+  std::uint8_t half[9] = {0x0D, 0x05};
+  write_bytes("OPTION.CFG.tmp", half, sizeof half);  // killed in the middle of a save
+  testing::internal::CaptureStderr();
+  Settings_Load();
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "valdrune: OPTION.CFG.tmp: left by an interrupted save; removed\n");
+  EXPECT_NE(access("OPTION.CFG.tmp", F_OK), 0);
+  EXPECT_EQ(Settings.difficulty, 2) << "the whole file is the one read";
+  Settings_Load();  // nothing left to remove
+  EXPECT_EQ(access("OPTION.CFG", F_OK), 0);
 }
 
 TEST_F(SettingsFile, ShortFileReplacesOnlyTheStartOfTheStagingRecord) {

@@ -51,5 +51,8 @@ int Headless_WritePng(const char* path);
 using Headless_ExitHook = void (*)(int status);
 void Headless_SetExitHook(Headless_ExitHook hook);
 
+// Silences the diagnostic channel (fuzz targets, whose every refused input would print).
+void Headless_SetQuietDiagnostics(bool quiet);
+
 // Prints the summary line "frames=N presented=P mode=M exit=S". Every ending prints it once.
 void Headless_PrintSummary(int status);

@@ -30,6 +30,7 @@ struct HeadlessState {
   void (*frame_hook)(long frame) = nullptr;
   bool summary_printed = false;
   Headless_ExitHook exit_hook = nullptr;
+  bool quiet_diagnostics = false;
 };
 HeadlessState H;
 
@@ -105,7 +106,11 @@ void Plat_WaitMs(int ms) {
   if (ms > 0) H.clock += static_cast<std::uint32_t>(ms);
 }
 
-void Plat_DebugOut(const char* text) { std::fprintf(stderr, "%s\n", text); }
+void Plat_DebugOut(const char* text) {
+  if (!H.quiet_diagnostics) std::fprintf(stderr, "%s\n", text);
+}
+
+void Headless_SetQuietDiagnostics(bool quiet) { H.quiet_diagnostics = quiet; }
 
 void Plat_Exit(int status) {
   if (H.exit_hook) {

@@ -197,7 +197,8 @@ int Plat_MusicLoadTrack(int track, const char* file) {
   Mix_Music* music = Mix_LoadMUS_RW(rw, 1);  // closes the file on failure
   if (music == nullptr) {
     char line[300];
-    std::snprintf(line, sizeof line, "music file %s: %s", file, Mix_GetError());
+    std::snprintf(line, sizeof line, "valdrune: %s: cannot be played (%s); track %d stays silent",
+                  file, Mix_GetError(), track);
     Plat_DebugOut(line);
     return 0;
   }

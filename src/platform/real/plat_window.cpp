@@ -5,6 +5,9 @@
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 #include "platform/platform.h"
@@ -44,6 +47,16 @@ Window find_titled(Display* display, Window parent, const char* title, int depth
 
 Plat_Callback GameIdle = nullptr;  // the game's per-frame function
 
+// The toolkit gives up by itself when it has no display to open; it then says so in the
+// game's words and ends with the toolkit's own status.
+void toolkit_failed(const char* format, va_list args) {
+  char why[300];
+  std::vsnprintf(why, sizeof why, format, args);
+  std::fflush(stdout);
+  Plat_DebugOutf("valdrune: fatal: no window: %s; the game stops (exit status 1)", why);
+  std::exit(1);
+}
+
 // Each idle call is one frame of the game.
 void frame_trampoline() {
   RealKeys_NewFrame();
@@ -57,6 +70,7 @@ void Plat_SetGameDisplayMode() {}
 void Plat_RestoreDisplayMode() {}
 
 int Plat_OpenWindow(const char* title) {
+  glutInitErrorFunc(toolkit_failed);
   glutInit(&FixedArgc, FixedArgv);
   glutInitDisplayMode(GLUT_DOUBLE | GLUT_DEPTH);
   glutInitWindowSize(512, 384);
