@@ -36,6 +36,7 @@ bool row_matches(const Fighter& f, const CommandRow& row) {
   int pos = f.cmd_pos;
   for (int seen = 0; seen < CMD_HISTORY; ++seen) {
     if (f.cmd_hist[pos] == row.codes[k]) ++k;
+    if (k == COMMAND_CODES) return false;  // a row without an end (the empty one) never matches
     if (row.codes[k] == CODE_END) return true;
     pos = pos == 0 ? CMD_HISTORY - 1 : pos - 1;
   }

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include "audio_fixture.h"
+#include "fight/fight_state.h"
 #include "platform/headless/headless.h"
 #include "platform/headless/headless_audio.h"
 #include "platform/platform.h"
@@ -60,6 +61,7 @@ TEST_F(MusicTest, TheFightRestartsTheStageTrackWhenItHasEnded) {
   ASSERT_EQ(Plat_OpenWindow("t"), 1);
   const std::int32_t saved_mode = Shell.GameMode;
   Shell.GameMode = MODE_FIGHT;
+  reset_round();  // the fighters in their corners: the fight runs as it does after a preparation
   Music_PlayTrack(Music_StageTrack(3));
   Run_Frame();
   Run_Frame();
