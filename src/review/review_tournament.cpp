@@ -14,14 +14,9 @@
 #include "fight/fight.h"
 #include "fight/fight_moves.h"
 #include "fight/fight_state.h"
-#include "hud/hud.h"
 #include "platform/headless/headless.h"
 #include "platform/platform.h"
-#include "render/render_fighter.h"
-#include "render/render_effect.h"
 #include "render/render_math.h"
-#include "render/render_stage.h"
-#include "render/render_view.h"
 #include "shell/shell.h"
 
 namespace {
@@ -76,22 +71,10 @@ void start_round(int level) {
   for (int i = 0; i < 2; ++i) Cpu.CpuLevel[i] = Cpu.CpuBaseLevel[i] = level;
 }
 
-// One fight frame with the pictures left out: poses and part boxes, what the drawing pass
-// moves on (the super flash, the bars, the projectiles' flight, the clock), then the update.
+// One fight frame as a drawn one runs it, the pictures left out.
 void step() {
   if (++frame_count == 30000) frame_count = 0;
-  Pose_Fighter(0);
-  Pose_Fighter(1);
-  Set_View();
-  Place_FighterOnly(0);
-  Place_FighterOnly(1);
-  Step_SuperFlash();
-  DrainGauges();
-  Fly_Projectiles();
-  const int a0 = fighters[0].action, a1 = fighters[1].action;
-  const bool posing = a0 == 12 || a0 == 13 || a1 == 12 || a1 == 13;
-  if (Match.after_ko == 0 && Match.ko_state == 0 && !posing) update_clock();
-  Fight_Update();
+  Fight_Step(1);
 }
 
 RoundEnd round_end() {

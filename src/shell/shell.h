@@ -64,6 +64,9 @@ void System_Keys();
 void Fight_Frame();
 void Fight_Draw();
 void Challenger_Step();
-// One fight frame as a frame behind schedule runs it, without the pacer: poses and part boxes,
-// the round clock, the fight update and the camera. For runs without a picture.
-void Fight_Step();
+// One fight frame without the pacer and without a picture: poses and part boxes, the round
+// clock, the fight update and the camera. With `as_drawn` 0 it runs as a frame behind schedule;
+// with 1 it also moves on what a drawn frame advances besides its pictures (the super flash,
+// the bars' drain, the time-over step, the projectiles' flight), so a long run without
+// pictures plays like a drawn one.
+void Fight_Step(int as_drawn);

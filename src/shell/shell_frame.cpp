@@ -7,6 +7,7 @@
 #include "hud/hud.h"
 #include "input/input.h"
 #include "platform/platform.h"
+#include "render/render_effect.h"
 #include "render/render_fighter.h"
 #include "render/render_stage.h"
 #include "render/render_state.h"
@@ -188,10 +189,16 @@ void Fight_Draw() {
   run_clock();
 }
 
-void Fight_Step() {
+void Fight_Step(int as_drawn) {
   Pose_Fighter(0);
   Pose_Fighter(1);
   place_undrawn();
+  if (as_drawn) {
+    Step_SuperFlash();  // moved on by the stage drawing
+    DrainGauges();
+    if (hud_base_shown()) resolve_time_over();
+    Fly_Projectiles();  // moved on by the effect pass
+  }
   run_clock();
   Fight_Update();
   UpdateFightCamera();
