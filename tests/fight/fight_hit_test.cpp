@@ -128,7 +128,9 @@ TEST_F(Blow, StandingGuardHoldsMidAndHighCrouchingGuardHoldsMidAndLow) {
     apply_blow(0, 1, c.guard_class, 7, 0);
     EXPECT_EQ(fighters[1].damage == 0, c.guarded);
     EXPECT_EQ(fighters[0].hit_new == -1, c.guarded);
-    if (c.guarded) EXPECT_TRUE(fighters[1].action == 8 || fighters[1].action == 35);
+    if (c.guarded) {
+      EXPECT_TRUE(fighters[1].action == 8 || fighters[1].action == 35);
+    }
   }
 }
 
