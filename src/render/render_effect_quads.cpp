@@ -54,11 +54,11 @@ void emit_quad(const ScreenVertex* q, Emitter emit) {
   glEnd();
 }
 
-// A glow-blended billboard whose picture has a black border: the whole square goes into the
-// depth buffer as before, but only the part of the screen under the rest of the picture is
-// coloured, which is most of the saving on the flip-books' wide black margins.
+// A glow-blended billboard whose picture is mostly black border: the whole square goes into
+// the depth buffer as before, but only the part of the screen under the rest of the picture is
+// coloured, which saves most of the cost of the flip-books' wide black margins.
 void emit_glow_quad(const ScreenVertex* q, int slot, Emitter emit) {
-  if (!Glow_HasBorder(slot)) {
+  if (!Glow_WorthCutting(slot)) {
     emit_quad(q, emit);
     return;
   }

@@ -93,18 +93,24 @@ namespace {
 
 constexpr float kScreenW = 512.0f, kScreenH = 384.0f;  // the picture space of every quad
 
+// Where the depth buffer is written, cutting the border costs a second pass over the square's
+// depth: worth it only when the border is most of the picture.
+constexpr float kWorthCutting = 0.5f;
+
 bool has_border(const float* border) {
   return border[0] > 0.0f || border[1] > 0.0f || border[2] > 0.0f || border[3] > 0.0f;
 }
 
 }  // namespace
 
-bool Glow_HasBorder(int slot) {
-  return slot >= 0 && slot < TEXTURE_SLOTS && has_border(Textures.Glow_Border[slot]);
+bool Glow_WorthCutting(int slot) {
+  if (slot < 0 || slot >= TEXTURE_SLOTS) return false;
+  const float* border = Textures.Glow_Border[slot];
+  return (1.0f - border[0] - border[2]) * (1.0f - border[1] - border[3]) <= kWorthCutting;
 }
 
 bool Glow_ScissorOn(const ScreenVertex* q, int slot) {
-  if (!Glow_HasBorder(slot)) return true;
+  if (slot < 0 || slot >= TEXTURE_SLOTS || !has_border(Textures.Glow_Border[slot])) return true;
   const float* border = Textures.Glow_Border[slot];
   const float s0 = border[0], t0 = border[1], s1 = 1.0f - border[2], t1 = 1.0f - border[3];
   if (!(s0 < s1 && t0 < t1)) return false;

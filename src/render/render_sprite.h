@@ -23,9 +23,9 @@ extern SpriteDrawState SpriteDraw;
 // Glow blending leaves the picture unchanged under a black border at full alpha, so a
 // glow-blended square need only be filled where its picture is not border. For a square flat
 // on the screen (corners in order, texture coordinates 0 to 1 across them): whether slot's
-// picture has such a border; turning the scissor test on around the rest of the picture
+// border is most of its picture; turning the scissor test on around the rest of the picture
 // (false when the whole picture is border, and nothing need be coloured); and off again.
-bool Glow_HasBorder(int slot);
+bool Glow_WorthCutting(int slot);
 bool Glow_ScissorOn(const ScreenVertex* q, int slot);
 void Glow_ScissorOff();
 
