@@ -192,17 +192,32 @@ void full_fight_frame() {
   glFinish();
 }
 
+// To look at and compare: DRAW_BENCH_SHOT=out.png writes the first frame the benchmark draws,
+// and with DRAW_BENCH_SHOT_FRAMES=n the first n frames as out.png.1, out.png.2 and so on.
+// Only the first run writes, so that the pictures never depend on how many frames ran before.
+void write_shots() {
+  static bool written = false;
+  const char* shot = std::getenv("DRAW_BENCH_SHOT");
+  if (written || shot == nullptr) return;
+  written = true;
+  const char* frames = std::getenv("DRAW_BENCH_SHOT_FRAMES");
+  const int n = frames != nullptr ? std::atoi(frames) : 0;
+  for (int k = 1; k <= (n > 0 ? n : 1); ++k) {
+    full_fight_frame();
+    Swap_Buffers();
+    const std::string name = n > 0 ? std::string(shot) + "." + std::to_string(k) : shot;
+    Headless_WritePng(name.c_str());
+  }
+}
+
 void BM_FullFightFrame(benchmark::State& state) {
   static const bool ready = set_up_data_fight();
   if (!ready) {
     state.SkipWithError("no generated data set at " VALDRUNE_DATA_DIR);
     return;
   }
+  write_shots();
   full_fight_frame();
-  if (const char* shot = std::getenv("DRAW_BENCH_SHOT")) {  // to look at
-    Swap_Buffers();
-    Headless_WritePng(shot);
-  }
   const long before = Allocations.load();
   for (auto _ : state) full_fight_frame();
   state.counters["allocations_per_frame"] =

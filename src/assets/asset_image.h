@@ -26,6 +26,14 @@ struct TextureTable {
   std::int32_t Texture_Width;   // size of the image loaded last
   std::int32_t Texture_Height;
   std::int32_t Texture_Repeat;  // 1: tile and smooth (model skins); 0: clamp, pixel-exact
+  // Per slot, the black opaque border of its picture, which a glow-blended draw leaves
+  // unchanged: the fractions of its width and height left, top, right and bottom (0 when
+  // unknown; left and right together 1 when the whole picture is border). Written by
+  // Load_TextureSlot.
+  float Glow_Border[TEXTURE_SLOTS][4];
+  // Per slot, 1 when every texel of its picture is at full alpha (blending it over the picture
+  // at full colour alpha just replaces what lies behind). Written by Load_TextureSlot.
+  std::uint8_t Texture_Opaque[TEXTURE_SLOTS];
 };
 extern TextureTable Textures;
 

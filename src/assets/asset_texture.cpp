@@ -32,6 +32,48 @@ void set_wrap_and_filter() {
   glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, filter);
 }
 
+// Black at full alpha changes nothing under glow blending (source and destination both
+// scaled by the source alpha).
+bool inert(const std::uint8_t* px, int components) {
+  return px[0] == 0 && px[1] == 0 && px[2] == 0 && (components != 4 || px[3] == 255);
+}
+
+// The last picture's border of inert texels, as fractions of its sides, left, top, right,
+// bottom; a picture with nothing but inert texels has its whole width as its left border.
+float LastBorder[4] = {};
+bool LastOpaque = false;  // every texel of the last picture at full alpha
+
+void measure_border(const std::uint8_t* pixels, int w, int h, int components) {
+  for (float& b : LastBorder) b = 0.0f;
+  LastOpaque = false;
+  if (w <= 0 || h <= 0) return;
+  const int bytes = components == 4 ? 4 : 3;
+  int x0 = w, y0 = h, x1 = -1, y1 = -1;
+  bool opaque = true;
+  for (int y = 0; y < h; ++y)
+    for (int x = 0; x < w; ++x) {
+      const std::uint8_t* px = pixels + (static_cast<long>(y) * w + x) * bytes;
+      opaque = opaque && (components != 4 || px[3] == 255);
+      if (inert(px, components)) continue;
+      x0 = x < x0 ? x : x0;
+      x1 = x > x1 ? x : x1;
+      y0 = y < y0 ? y : y0;
+      y1 = y > y1 ? y : y1;
+    }
+  if (x1 < 0) {  // all border
+    x0 = w;
+    x1 = w - 1;
+    y0 = 0;
+    y1 = h - 1;
+  }
+  LastOpaque = opaque;
+  const float fw = static_cast<float>(w), fh = static_cast<float>(h);
+  LastBorder[0] = static_cast<float>(x0) / fw;
+  LastBorder[1] = static_cast<float>(y0) / fh;
+  LastBorder[2] = static_cast<float>(w - 1 - x1) / fw;
+  LastBorder[3] = static_cast<float>(h - 1 - y1) / fh;
+}
+
 }  // namespace
 
 constinit SpriteTable Sprites = initial_sprites();
@@ -46,6 +88,7 @@ bool Make_Texture(const char* name, GLuint& id, int& width, int& height) {
     glTexImage2D(GL_TEXTURE_2D, 0, 4, w, h, 0, GL_RGBA, GL_UNSIGNED_BYTE, Image_Pixels());
   else
     glTexImage2D(GL_TEXTURE_2D, 0, 3, w, h, 0, GL_RGB, GL_UNSIGNED_BYTE, Image_Pixels());
+  measure_border(Image_Pixels(), w, h, components);
   set_wrap_and_filter();
   width = w;
   height = h;
@@ -59,6 +102,8 @@ bool Load_TextureSlot(const char* name, int slot) {
     ok = Make_Texture(name, Textures.TextureId[slot], width, height);
     Textures.Texture_Width = width;
     Textures.Texture_Height = height;
+    for (int k = 0; k < 4; ++k) Textures.Glow_Border[slot][k] = ok ? LastBorder[k] : 0.0f;
+    Textures.Texture_Opaque[slot] = ok && LastOpaque ? 1 : 0;
   }
   if (!ok) {
     if (slot < 0 || slot >= TEXTURE_SLOTS) Load_Refused(name, "no texture slot %d", slot);
@@ -75,6 +120,8 @@ bool Load_TextureSlot(const char* name, int slot) {
 
 void Reset_Textures() {
   std::memset(Textures.TextureFile, 0, sizeof Textures.TextureFile);
+  std::memset(Textures.Glow_Border, 0, sizeof Textures.Glow_Border);
+  std::memset(Textures.Texture_Opaque, 0, sizeof Textures.Texture_Opaque);
   glFlush();
   const int used = Textures.Texture_Count < TEXTURE_SLOTS ? Textures.Texture_Count : TEXTURE_SLOTS;
   if (used > 0) glDeleteTextures(used, Textures.TextureId);

@@ -27,7 +27,7 @@ constexpr int kFightFaded = 31;
 void draw_glow(int code, int sprite, int x, int y, int w, int h, int level) {
   Set_DrawMode(code);
   Blend_Glow();
-  Draw_RasterLTint(sprite, x, y, w, h, static_cast<std::uint16_t>(std::clamp(level, 0, 255)));
+  Draw_RasterLGlow(sprite, x, y, w, h, static_cast<std::uint16_t>(std::clamp(level, 0, 255)));
   Set_DrawMode(kDrawModePlain);
 }
 

@@ -54,6 +54,25 @@ void emit_quad(const ScreenVertex* q, Emitter emit) {
   glEnd();
 }
 
+// A glow-blended billboard whose picture is mostly black border: the whole square goes into
+// the depth buffer as before, but only the part of the screen under the rest of the picture is
+// coloured, which saves most of the cost of the flip-books' wide black margins.
+void emit_glow_quad(const ScreenVertex* q, int slot, Emitter emit) {
+  if (!Glow_WorthCutting(slot)) {
+    emit_quad(q, emit);
+    return;
+  }
+  glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);  // depth only: nothing to sample or blend
+  glDisable(GL_TEXTURE_2D);
+  glDisable(GL_BLEND);
+  emit_quad(q, emit);
+  glEnable(GL_BLEND);
+  glEnable(GL_TEXTURE_2D);
+  glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+  if (Glow_ScissorOn(q, slot)) emit_quad(q, emit);
+  Glow_ScissorOff();
+}
+
 // A camera-facing square of side `size` about the world point (x, y, z); false when the point
 // is too near the camera or behind it.
 bool billboard(ScreenVertex* q, float size, float x, float y, float z, bool mirrored) {
@@ -101,14 +120,14 @@ void Draw_EffectBillboard(int effect, int slot, float size) {
   ScreenVertex q[4];
   if (!billboard(q, size, e.x, e.y, e.z, e.facing != kFacingUnmirrored)) return;
   bind_slot(slot);
-  emit_quad(q, Emit_TriDepth);
+  emit_glow_quad(q, slot, Emit_TriDepth);
 }
 
 void Draw_Billboard(int slot, float size, float x, float y, float z, int facing) {
   ScreenVertex q[4];
   if (!billboard(q, size, x, y, z, facing != kFacingUnmirrored)) return;
   bind_slot(slot);
-  emit_quad(q, Emit_Tri);
+  emit_glow_quad(q, slot, Emit_Tri);
 }
 
 void Draw_SparkBillboard(int spark, int slot, float size) {
@@ -120,7 +139,7 @@ void Draw_SparkBillboard(int spark, int slot, float size) {
   grey = grey < 0 ? 0 : grey > 255 ? 255 : grey;
   bind_slot(slot);
   glColor3ub(static_cast<GLubyte>(grey), static_cast<GLubyte>(grey), static_cast<GLubyte>(grey));
-  emit_quad(q, Emit_TriDepth);
+  emit_glow_quad(q, slot, Emit_TriDepth);
   glColor3ub(255, 255, 255);
 }
 

@@ -95,17 +95,34 @@ void bind(std::int32_t slot) {
   if (slot >= 0 && slot < TEXTURE_SLOTS) glBindTexture(GL_TEXTURE_2D, Textures.TextureId[slot]);
 }
 
+// A skin with every texel at full alpha, drawn at full colour alpha, only replaces what lies
+// behind it: it is drawn without blending, which spares reading the picture back.
+void blend_for(std::int32_t slot, bool solid_colour) {
+  const bool opaque = solid_colour && slot >= 0 && slot < TEXTURE_SLOTS &&
+                      Textures.Texture_Opaque[slot] == 1;
+  if (opaque)
+    glDisable(GL_BLEND);
+  else
+    glEnable(GL_BLEND);
+}
+
 // The tenth stage's computer opponent fades as the round clock runs on; a ghost is half
-// seen; everyone else is drawn in the current colour.
-void set_colour(int player) {
+// seen; everyone else is drawn in the current colour. True when the colour is at full alpha.
+bool set_colour(int player) {
   const Fighter& f = fighters[player];
   if (Match.stage_count == kFadeStage && Match.human[player] == 0 && Match.clock >= kFadeClock) {
     int a = 255 - (Match.clock - kFadeClock) / 7 + 20 * f.damage;
     a = a < kMinFade ? kMinFade : (a > kMaxFade ? kMaxFade : a);
     glColor4ub(255, 255, 255, static_cast<GLubyte>(a));
-  } else if (f.ghost) {
-    glColor4ub(255, 255, 255, kGhostAlpha);
+    return a == 255;
   }
+  if (f.ghost) {
+    glColor4ub(255, 255, 255, kGhostAlpha);
+    return false;
+  }
+  GLfloat current[4];
+  glGetFloatv(GL_CURRENT_COLOR, current);
+  return current[3] >= 1.0f;
 }
 
 // A vertex's normal turned into the world by its part's world rotation.
@@ -119,7 +136,7 @@ void send_normal(int player, const MeshVertex& v) {
 
 // Sends every front face, binding textures only where consecutive faces change texture.
 // The fight sends from the vertex arrays; the showcase sends each corner with its normal.
-void send_faces(int player, bool showcase) {
+void send_faces(int player, bool showcase, bool solid_colour) {
   const KnightModel& K = Knight[player];
   std::int32_t bound = -1;
   glBegin(GL_TRIANGLES);
@@ -130,6 +147,7 @@ void send_faces(int player, bool showcase) {
     if (slot != bound) {
       glEnd();
       bind(slot);
+      blend_for(slot, solid_colour);
       glBegin(GL_TRIANGLES);
       bound = slot;
     }
@@ -148,6 +166,7 @@ void send_faces(int player, bool showcase) {
     }
   }
   glEnd();
+  glEnable(GL_BLEND);
 }
 
 }  // namespace
@@ -159,8 +178,8 @@ void Draw_Mesh(int player) {
   glVertexPointer(3, GL_FLOAT, 0, Scratch.vertex);
   glTexCoordPointer(2, GL_FLOAT, 0, Scratch.uv);
   glShadeModel(GL_SMOOTH);
-  set_colour(player);
-  send_faces(player, false);
+  const bool solid = set_colour(player);
+  send_faces(player, false, solid);
   glColor4ub(255, 255, 255, 255);
   glShadeModel(GL_FLAT);
   Run_ImpactTimer();
@@ -171,7 +190,7 @@ void Draw_Showcase(int player) {
   Place_Showcase(player);
   project_vertices(player);
   glShadeModel(GL_SMOOTH);
-  send_faces(player, true);
+  send_faces(player, true, false);
   glColor4ub(255, 255, 255, 255);
   glShadeModel(GL_FLAT);
   Run_ImpactTimer();

@@ -3,6 +3,8 @@
 
 #include <GL/gl.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cstdlib>
 
 #include "render/render_stage.h"
@@ -86,6 +88,51 @@ int height(int sprite) { return valid(sprite) ? Sprites.Raster_Height[sprite] : 
 }  // namespace
 
 int Layout(int v) { return static_cast<int>(v * 1.6); }
+
+namespace {
+
+constexpr float kScreenW = 512.0f, kScreenH = 384.0f;  // the picture space of every quad
+
+// Where the depth buffer is written, cutting the border costs a second pass over the square's
+// depth: worth it only when the border is most of the picture.
+constexpr float kWorthCutting = 0.5f;
+
+bool has_border(const float* border) {
+  return border[0] > 0.0f || border[1] > 0.0f || border[2] > 0.0f || border[3] > 0.0f;
+}
+
+}  // namespace
+
+bool Glow_WorthCutting(int slot) {
+  if (slot < 0 || slot >= TEXTURE_SLOTS) return false;
+  const float* border = Textures.Glow_Border[slot];
+  return (1.0f - border[0] - border[2]) * (1.0f - border[1] - border[3]) <= kWorthCutting;
+}
+
+bool Glow_ScissorOn(const ScreenVertex* q, int slot) {
+  if (slot < 0 || slot >= TEXTURE_SLOTS || !has_border(Textures.Glow_Border[slot])) return true;
+  const float* border = Textures.Glow_Border[slot];
+  const float s0 = border[0], t0 = border[1], s1 = 1.0f - border[2], t1 = 1.0f - border[3];
+  if (!(s0 < s1 && t0 < t1)) return false;
+  // Where the kept texels fall on the square (mirrored or turned squares included).
+  const float xa = q[0].x + (q[1].x - q[0].x) * s0, xb = q[0].x + (q[1].x - q[0].x) * s1;
+  const float ya = q[0].y + (q[3].y - q[0].y) * t0, yb = q[0].y + (q[3].y - q[0].y) * t1;
+  GLint view[4];
+  glGetIntegerv(GL_VIEWPORT, view);
+  const float kx = static_cast<float>(view[2]) / kScreenW;
+  const float ky = static_cast<float>(view[3]) / kScreenH;
+  // Window rows count up from the bottom; a pixel of margin on every side keeps every pixel
+  // that could sample a kept texel.
+  const int left = static_cast<int>(std::floor(std::min(xa, xb) * kx)) - 1;
+  const int right = static_cast<int>(std::ceil(std::max(xa, xb) * kx)) + 1;
+  const int bottom = static_cast<int>(std::floor((kScreenH - std::max(ya, yb)) * ky)) - 1;
+  const int top = static_cast<int>(std::ceil((kScreenH - std::min(ya, yb)) * ky)) + 1;
+  glEnable(GL_SCISSOR_TEST);
+  glScissor(view[0] + left, view[1] + bottom, right - left, top - bottom);
+  return true;
+}
+
+void Glow_ScissorOff() { glDisable(GL_SCISSOR_TEST); }
 
 // ---- emitters ----------------------------------------------------------------------------
 void Emit_Tri(const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c) {
@@ -178,6 +225,14 @@ void Draw_RasterFadeStretchMirror(int s, int x, int y, int w, int h, std::uint16
 void Draw_RasterLTint(int s, int x, int y, int w, int h, std::uint16_t level) {
   for (ScreenVertex& v : SpriteDraw.Scratch_Quad) v.r = v.g = v.b = level;
   scratch(s, Layout(x), Layout(y), Layout(w), Layout(h), Orient::AsStored, Emit_TriTint);
+}
+void Draw_RasterLGlow(int s, int x, int y, int w, int h, std::uint16_t level) {
+  if (!valid(s)) return;
+  ScreenVertex* q = SpriteDraw.Scratch_Quad;
+  for (int k = 0; k < 4; ++k) q[k].r = q[k].g = q[k].b = level;
+  place(q, Layout(x), Layout(y), Layout(w), Layout(h), Orient::AsStored);
+  if (Glow_ScissorOn(q, Sprites.Raster_Slot[s])) draw_quad(s, q, Emit_TriTint);
+  Glow_ScissorOff();
 }
 void Draw_RasterLFade(int s, int x, int y, int w, int h, std::uint16_t level) {
   scratch_colour(level, level, level, level);

@@ -20,6 +20,15 @@ struct SpriteDrawState {
 };
 extern SpriteDrawState SpriteDraw;
 
+// Glow blending leaves the picture unchanged under a black border at full alpha, so a
+// glow-blended square need only be filled where its picture is not border. For a square flat
+// on the screen (corners in order, texture coordinates 0 to 1 across them): whether slot's
+// border is most of its picture; turning the scissor test on around the rest of the picture
+// (false when the whole picture is border, and nothing need be coloured); and off again.
+bool Glow_WorthCutting(int slot);
+bool Glow_ScissorOn(const ScreenVertex* q, int slot);
+void Glow_ScissorOff();
+
 // Layout space (320 x 240) to screen (512 x 384): times 1.6, truncated toward zero.
 int Layout(int v);
 
@@ -50,6 +59,9 @@ void Draw_RasterFadeStretch(int sprite, int x, int y, int w, int h, std::uint16_
 void Draw_RasterFadeStretchMirror(int sprite, int x, int y, int w, int h, std::uint16_t level);
 // Layout units with a colour treatment.
 void Draw_RasterLTint(int sprite, int x, int y, int w, int h, std::uint16_t level);
+// As Draw_RasterLTint, for a glow-blended picture drawn without the depth test: its black
+// border, which adds nothing to the picture, is not filled.
+void Draw_RasterLGlow(int sprite, int x, int y, int w, int h, std::uint16_t level);
 void Draw_RasterLFade(int sprite, int x, int y, int w, int h, std::uint16_t level);
 void Draw_RasterLShade(int sprite, int x, int y, int w, int h, std::uint16_t level);
 void Draw_RasterLGrey(int sprite, int x, int y, int w, int h, std::uint16_t level);

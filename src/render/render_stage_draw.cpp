@@ -47,29 +47,30 @@ bool without_alpha(std::int32_t slot) {
   return alpha_bits == 0;
 }
 
-// Floor, light pool and backdrop drawn over each other in the current (opaque) colour: when
-// none of their pictures has an alpha channel, blending could change nothing, and the arena
-// (most of the screen) is drawn without it.
-bool arena_opaque() {
-  if (!without_alpha(Stage.floor_slot)) return false;
-  if (Stage.Stage_Light == 1 && !without_alpha(Stage.light_slot)) return false;
+// The backdrop's pictures, drawn in the current (opaque) colour: when none has an alpha
+// channel, blending could change nothing.
+bool backdrop_opaque() {
   for (std::int32_t slot : Stage.backdrop_slot)
     if (!without_alpha(slot)) return false;
   return true;
 }
 
+// The floor and the backdrop (most of the screen) are drawn without blending when their
+// pictures have no alpha channel; the light pool between them always blends.
 void draw_arena() {
-  const bool opaque = arena_opaque();
-  if (opaque) glDisable(GL_BLEND);
+  const bool floor_opaque = without_alpha(Stage.floor_slot);
+  const bool backdrop_solid = backdrop_opaque();
+  if (floor_opaque) glDisable(GL_BLEND);
   Set_DrawMode(200);
-  Draw_Floor();
+  Draw_Floor();  // blending is back on for its light pool
+  if (backdrop_solid) glDisable(GL_BLEND);
   Set_DrawMode(8);
   Draw_Backdrop();
   Draw_BackdropAt(-BACKDROP_WIDTH);
   Draw_BackdropAt(BACKDROP_WIDTH);
   Draw_BackdropAt(-2.0f * BACKDROP_WIDTH);
   Draw_BackdropAt(2.0f * BACKDROP_WIDTH);
-  if (opaque) glEnable(GL_BLEND);
+  glEnable(GL_BLEND);
 }
 
 void draw_super_picture(int sprite) {
@@ -93,6 +94,7 @@ void Draw_Floor() {
   bind_slot(Stage.floor_slot);
   for (float z : zs)
     for (float x : xs) draw_mesh(Stage.floor, Stage.floor_sv, x, z);
+  glEnable(GL_BLEND);
   if (Stage.Stage_Light == 1) {
     Set_DrawMode(201);
     Draw_LightPool();

@@ -93,6 +93,20 @@ TEST_F(FighterDrawTest, FightFrameShowsStageFightersAndShadows) {
   }
 }
 
+// Solid skins at full alpha cover what lies behind; a ghost's half alpha still lets it through.
+TEST_F(FighterDrawTest, AGhostStillShowsTheStageThroughItsSkin) {
+  int x, y;
+  draw_frame();
+  const float* c = Draw.Body_Centre[0];
+  screen_of(c[0], c[1], c[2], &x, &y);
+  EXPECT_TRUE(near(at(draw_frame(), x, y), scene::kSkin[0], 4));
+  fighters[0].ghost = 1;
+  const std::uint8_t* px = at(draw_frame(), x, y);
+  fighters[0].ghost = 0;
+  EXPECT_FALSE(near(px, scene::kSkin[0], 20));
+  EXPECT_GT(px[2], 10) << "the blue backdrop shows through";
+}
+
 TEST_F(FighterDrawTest, ContinueSceneDrawsOnlyTheLoserWithoutShadow) {
   Shell.GameMode = MODE_CONTINUE;
   Match.winner = 1;

@@ -1,0 +1,147 @@
+// Glow-blended pictures with a black border: the border is measured when the picture loads,
+// and leaving it unfilled changes nothing on the screen, not even what a later effect behind
+// the border's square is hidden by.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <vector>
+
+#include "assets/asset_image.h"
+#include "assets/asset_model.h"
+#include "fight/fight_state.h"
+#include "platform/headless/headless.h"
+#include "render/render_effect.h"
+#include "render/render_math.h"
+#include "render/render_sprite.h"
+#include "render/render_state.h"
+#include "render/render_view.h"
+#include "support/test_support.h"
+#include "writers/writer_image.h"
+
+namespace {
+
+constexpr int kSide = 16;
+
+// A 16 x 16 RGBA picture, black at full alpha but for the texels from (x0, y0) to (x1, y1)
+// inclusive, which are (r, g, b) with a one-texel ring at half that.
+writers::ImageFile bordered(int x0, int y0, int x1, int y1, std::uint8_t r, std::uint8_t g,
+                            std::uint8_t b) {
+  writers::ImageFile image{kSide, kSide, 4, writers::Bytes(kSide * kSide * 4)};
+  for (int y = 0; y < kSide; ++y)
+    for (int x = 0; x < kSide; ++x) {
+      std::uint8_t* p = &image.pixels[(y * kSide + x) * 4];
+      p[3] = 255;
+      if (x < x0 || x > x1 || y < y0 || y > y1) continue;
+      const bool ring = x == x0 || x == x1 || y == y0 || y == y1;
+      p[0] = ring ? r / 2 : r;
+      p[1] = ring ? g / 2 : g;
+      p[2] = ring ? b / 2 : b;
+    }
+  return image;
+}
+
+class GlowBorder : public test::TempDirTest {
+ protected:
+  void SetUp() override {
+    TempDirTest::SetUp();
+    test::ensure_gl();
+    Build_SinCosTables();
+    Build_AngleTables();
+    Reset_Textures();
+    Effects = EffectState{};
+    static const Fighter kBlank{};
+    fighters[0] = kBlank;
+    fighters[1] = kBlank;
+    fighters[0].yaw = 90;
+    fighters[1].yaw = 270;
+    Match = MatchState{};
+    frame_count = 0;
+    for (EffectModel& m : Polygon_Sprite) m.max_vtx = m.max_face = 0;
+    Mat_Translate(&View, 0, 0, 30);
+  }
+  void TearDown() override {
+    Reset_Textures();
+    TempDirTest::TearDown();
+  }
+  void load(const char* name, const writers::ImageFile& image, int slot) {
+    ASSERT_TRUE(writers::Write_Image(name, image));
+    ASSERT_TRUE(Load_TextureSlot(name, slot));
+  }
+  static std::vector<std::uint8_t> screen() {
+    Swap_Buffers();
+    const std::uint8_t* p = Headless_Pixels();
+    return {p, p + HEADLESS_WIDTH * HEADLESS_HEIGHT * 4};
+  }
+  static const std::uint8_t* at(const std::vector<std::uint8_t>& s, int x, int y) {
+    const int px = x * HEADLESS_WIDTH / 512, py = y * HEADLESS_HEIGHT / 384;
+    return &s[(py * HEADLESS_WIDTH + px) * 4];
+  }
+};
+
+TEST_F(GlowBorder, IsMeasuredFromTheBlackOpaqueTexelsAtLoad) {
+  load("A.BMP", bordered(3, 5, 11, 12, 200, 100, 50), 10);
+  const float* a = Textures.Glow_Border[10];
+  EXPECT_FLOAT_EQ(a[0], 3.0f / 16);
+  EXPECT_FLOAT_EQ(a[1], 5.0f / 16);
+  EXPECT_FLOAT_EQ(a[2], 4.0f / 16);
+  EXPECT_FLOAT_EQ(a[3], 3.0f / 16);
+  EXPECT_EQ(Textures.Texture_Opaque[10], 1);
+
+  // Black at less than full alpha darkens under glow blending: it is picture, not border.
+  writers::ImageFile see_through = bordered(6, 6, 9, 9, 255, 255, 255);
+  see_through.pixels[3] = 0;  // texel (0, 0)
+  load("B.BMP", see_through, 11);
+  for (int k = 0; k < 2; ++k) EXPECT_EQ(Textures.Glow_Border[11][k], 0.0f);
+  EXPECT_EQ(Textures.Texture_Opaque[11], 0);
+
+  load("C.BMP", bordered(99, 99, 99, 99, 0, 0, 0), 12);  // all border
+  EXPECT_FLOAT_EQ(Textures.Glow_Border[12][0] + Textures.Glow_Border[12][2], 1.0f);
+
+  load("D.BMP", {2, 1, 3, {0, 0, 0, 9, 9, 9}}, 12);  // reloading the slot measures again
+  EXPECT_FLOAT_EQ(Textures.Glow_Border[12][0], 0.5f);
+  EXPECT_FLOAT_EQ(Textures.Glow_Border[12][2], 0.0f);
+  EXPECT_EQ(Textures.Texture_Opaque[12], 1);
+  Reset_Textures();
+  EXPECT_EQ(Textures.Glow_Border[12][0], 0.0f);
+}
+
+TEST_F(GlowBorder, LeavingTheBorderUnfilledDrawsTheSamePicture) {
+  // A white hit flash, then a red hit spark behind it and a quarter to the side: the spark's
+  // bright middle lies under the flash's black border, which hides it.
+  load("F.BMP", bordered(6, 6, 9, 9, 255, 255, 255), 45);
+  load("S.BMP", bordered(5, 5, 10, 10, 255, 0, 0), 61);
+  load("G.BMP", bordered(2, 4, 13, 11, 0, 200, 90), 400);
+  Sprites.Raster_Slot[399] = 400;
+  Sprites.Raster_Width[399] = kSide;
+  Sprites.Raster_Height[399] = kSide;
+  Textures.Texture_Count = 401;
+
+  const auto draw = [] {
+    Effects = EffectState{};
+    Spawn_HitEffect(0, 0, 0, 0, 1, 0);
+    Spawn_HitEffect(0, 1, 0, 5, 3, 0);
+    Clear_Screen(30, 60, 90);
+    Clear_Depth();
+    Draw_Effects();
+    glDisable(GL_DEPTH_TEST);  // as the display's calls draw
+    Blend_Glow();
+    Draw_RasterLGlow(399, 200, 20, 57, 23, 200);
+    glEnable(GL_DEPTH_TEST);
+    Blend_Normal();
+    return screen();
+  };
+  const std::vector<std::uint8_t> cut = draw();
+  std::memset(Textures.Glow_Border, 0, sizeof Textures.Glow_Border);  // filled whole
+  const std::vector<std::uint8_t> whole = draw();
+
+  EXPECT_GT(at(whole, 256, 192)[0], 200);  // the flash's middle
+  EXPECT_EQ(at(whole, 256, 192)[1], at(whole, 256, 192)[0]);
+  const std::uint8_t* hidden = at(whole, 256 + 30, 192);  // under the flash's border
+  EXPECT_EQ(hidden[0], 30);
+  EXPECT_GT(at(whole, 365, 50)[1], 150);  // the display's glow
+  int differing = 0;
+  for (std::size_t i = 0; i < whole.size(); ++i) differing += whole[i] != cut[i];
+  EXPECT_EQ(differing, 0);
+}
+
+}  // namespace
