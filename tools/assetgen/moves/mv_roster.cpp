@@ -414,9 +414,11 @@ void Mv_CharacterMoves(int character, std::vector<Move>& out) {
     Move mv = Build_Move(character, row.action, st, row);
     const int band = Mv_ReachBand(character, row.action);
     const float target = band > 0 ? static_cast<float>(band) : kCloseReach;
+    Mv_FitLine(mv, character, Keep);
     Mv_FitReach(mv, character, target);
     Stride_Lunge(mv, row.mirror);
     Mv_FitReach(mv, character, target);  // the stride moves the striking limb a little
+    Mv_FitLine(mv, character, Keep);
     out.push_back(std::move(mv));
   };
   for (const Row* row : Rows_Of(character)) attack(*row);
