@@ -106,15 +106,15 @@ constexpr Row kRows[15][kMaxRows] = {
      {266, A::SuperRush, 435, 432, false}, {273, A::SuperGrab, 410, 0, true}, {305, A::HeelDrop, 11, 0, false},
      {306, A::FlyingKnee, 10, 0, false}, {307, A::Sweep, 12, 0, false}},  // 8
     {{190, A::Blades, 7, 10, false}, {191, A::SpinKick, 11, 0, false}, {197, A::SuperGrab, 410, 0, false},
-     {220, A::Grab, 10, 0, false}, {221, A::SuperGrab, 410, 0, true}, {266, A::Backfist, 8, 0, false},
-     {267, A::Blades, 8, 12, false}, {268, A::FlyingKick, 8, 0, false}, {269, A::SuperBlades, 407, 432, false},
+     {220, A::Grab, 10, 0, false}, {221, A::SuperGrab, 410, 0, true}, {266, A::Backfist, 11, 0, false},
+     {267, A::Blades, 8, 12, false}, {268, A::FlyingKick, 11, 0, false}, {269, A::SuperBlades, 407, 432, false},
      {270, A::Sweep, 12, 0, false}, {271, A::SuperSpin, 411, 431, false}, {305, A::Rush, 35, 10, false},
-     {306, A::Uppercut, 20, 0, false}, {307, A::TwinKick, 4, 8, false}},  // 9
-    {{190, A::TwinKick, 4, 8, false}, {191, A::SpinKick, 11, 0, true}, {192, A::Sweep, 12, 0, true},
+     {306, A::Uppercut, 20, 0, false}, {307, A::TwinKick, 7, 11, false}},  // 9
+    {{190, A::TwinKick, 7, 11, false}, {191, A::SpinKick, 11, 0, true}, {192, A::Sweep, 12, 0, true},
      {193, A::SuperSpin, 411, 431, false}, {195, A::SuperRush, 435, 432, true}, {196, A::FlyingKnee, 10, 0, false},
      {226, A::HeelDrop, 11, 0, false}, {227, A::Straight, 10, 0, false}, {228, A::Uppercut, 20, 0, false},
-     {266, A::Rush, 35, 10, true}, {267, A::Backfist, 8, 0, false}, {268, A::Charge, 10, 0, false},
-     {269, A::FlyingKick, 8, 0, false}, {270, A::HeelDrop, 11, 0, true}, {272, A::Blades, 7, 10, false},
+     {266, A::Rush, 35, 10, true}, {267, A::Backfist, 11, 0, false}, {268, A::Charge, 10, 0, false},
+     {269, A::FlyingKick, 11, 0, false}, {270, A::HeelDrop, 11, 0, true}, {272, A::Blades, 7, 10, false},
      {273, A::SuperGrab, 410, 0, false}, {305, A::SuperSpin, 411, 432, true}},  // 10
     {{190, A::Palms, 24, 0, false}, {191, A::Uppercut, 20, 0, true}, {193, A::SuperRush, 435, 431, false},
      {194, A::FlyingKick, 8, 0, false}, {195, A::SuperSpin, 411, 432, false}, {196, A::SuperRush, 435, 431, true},
