@@ -4,6 +4,7 @@
 // when the clock runs out.
 #include "review/review_tournament.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 
@@ -28,6 +29,7 @@ enum RoundEnd { ROUND_RUNNING, ROUND_KO, ROUND_TIME };
 struct Tally {
   long wins, rounds, ko, timeouts, frames;
   long usage[MAX_ACTIONS];  // times the character entered each action
+  long stay[MAX_ACTIONS];   // the most frames it spent in one go in each action
 };
 
 // The tournament's results; written only by this file's steps.
@@ -111,6 +113,7 @@ void count_round(const int character[2], RoundEnd end, long frames) {
 void play_round(const int character[2], int level) {
   start_round(level);
   int last[2] = {-1, -1};
+  long since[2] = {0, 0};
   RoundEnd end = ROUND_RUNNING;
   long frames = 0;
   const auto begin = std::chrono::steady_clock::now();
@@ -120,6 +123,9 @@ void play_round(const int character[2], int level) {
     for (int i = 0; i < 2; ++i) {
       const int a = fighters[i].action;
       if (a != last[i] && a >= 0 && a < MAX_ACTIONS) ++T.tally[character[i]].usage[a];
+      if (a != last[i]) since[i] = frames;
+      long& stay = T.tally[character[i]].stay[a >= 0 && a < MAX_ACTIONS ? a : 0];
+      stay = std::max(stay, frames - since[i] + 1);
       last[i] = a;
     }
     end = round_end();
@@ -143,6 +149,12 @@ void print_results(int usage) {
         if (T.tally[c].usage[a] > 0) std::printf(" %d:%ld", a, T.tally[c].usage[a]);
       std::printf("\n");
     }
+    // Staying put is only expected standing, lying and in a victory pose.
+    constexpr int kResting[] = {0, 12, 13, 22, 23, 24, 50, 51};
+    for (int c = 0; c < CHARACTERS; ++c)
+      for (int a = 0; a < MAX_ACTIONS; ++a)
+        if (T.tally[c].stay[a] > 600 && std::find(std::begin(kResting), std::end(kResting), a) == std::end(kResting))
+          std::printf("stay char=%d action=%d frames=%ld\n", c, a, T.tally[c].stay[a]);
   }
   const double share = T.rounds > 0 ? static_cast<double>(T.kos) / T.rounds : 0.0;
   const double fps = T.seconds > 0 ? T.frames / T.seconds : 0.0;

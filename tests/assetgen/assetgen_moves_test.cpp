@@ -373,3 +373,49 @@ TEST_F(OwnMoves, TheOpeningPlaysItsWholeScriptWithoutBlows) {
 }
 
 }  // namespace
+
+// Where the striking part passes across the fighters' line over a strike's frames: the least
+// sideways distance of its box from the line (0 when the box straddles it), signed by the side.
+float Off_Line(const fig::Model& model, int action) {
+  Fighter& f = fighters[0];
+  f.first_part = 2;
+  f.last_part = 21;
+  float best = 1e9f;
+  for (int fr = f.act_first[action]; fr <= f.act_last[action]; ++fr) {
+    const int part = f.frame_part[fr], kind = f.frame_hit[fr] % 100;
+    if (!armed(part, f.frame_hit[fr]) || kind == 24 || kind == 25 || kind == 42 || kind == 43) continue;
+    if (f.frame_hit[fr] % 100 >= 28 && f.frame_hit[fr] % 100 <= 32) return 0;  // connects anywhere
+    f.frame = fr;
+    Pose_Fighter(0);
+    float lo = 1e9f, hi = -1e9f;
+    for (const auto& c : model.boxes[part].corner) {
+      float out[3];
+      Mat_Apply(&Anim.Pose[0][part], c[0], c[1], c[2], &out[0], &out[1], &out[2]);
+      lo = std::min(lo, out[0]);
+      hi = std::max(hi, out[0]);
+    }
+    const float off = lo > 0 ? lo : hi < 0 ? hi : 0.0f;
+    if (std::abs(off) < std::abs(best)) best = off;
+  }
+  return best;
+}
+
+// A strike only lands when the striking part crosses the opponent's body, which stands on the
+// line the fighters face each other along: a kick that swings wide of it never connects.
+TEST_F(OwnMoves, StrikesCrossTheLineTheOpponentStandsOn) {
+  if (!real_shared_) GTEST_SKIP() << "needs the generated shared motions";
+  constexpr float kBodyHalfWidth = 1.0f;  // the defender's trunk and widened boxes, sideways
+  for (int c = 0; c < fig::kCharacters; ++c) {
+    SCOPED_TRACE(c);
+    Load_Character(c);
+    auto model = std::make_unique<fig::Model>();
+    fig::TextureLayout layout;
+    ASSERT_TRUE(fig::Fig_BuildModel(c, *model, layout));
+    for (int a = 0; a < 600; ++a) {
+      if (fighters[0].act_first[a] < 1 || (a >= 340 && a <= 479)) continue;
+      const float off = Off_Line(*model, a);
+      if (off > 1e8f) continue;  // no strike
+      EXPECT_LE(std::abs(off), kBodyHalfWidth) << "action " << a << " lands " << off << " off the line";
+    }
+  }
+}

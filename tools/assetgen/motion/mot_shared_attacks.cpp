@@ -145,6 +145,21 @@ constexpr Pose kParry = With(kStance, {{3, 0, 20, 0},     {2, 0, -40, 0},
                                        {5, -60, 20, 0},   {6, -70, 0, 0},  {7, -60, 0, 0},
                                        {15, 40, 0, 0},    {9, 40, 0, 0}});
 
+// Strikes turned onto the line the opponent stands on: the whole body pivots a little toward
+// the striking side's far shoulder, so the fist or foot crosses the opponent's body, not beside it.
+constexpr Pose kKickOutOnLine = Plus(kKickOut, {{4, 0, -30, 0}});
+constexpr Pose kCrPunchOnLine = Plus(kCrPunch, {{4, 0, -25, 0}});
+constexpr Pose kHeelOutOnLine = Plus(kHeelOut, {{4, 0, -30, 0}});
+constexpr Pose kAirRoundOnLine = Plus(kAirRound, {{4, 0, -35, 0}});
+constexpr Pose kSpinOutOnLine = Plus(kSpinOut, {{4, 0, -25, 0}});
+constexpr Pose kAirCrossOnLine = Plus(kAirCross, {{4, 0, -20, 0}});
+constexpr Pose kAirChopOnLine = Plus(kAirChop, {{4, 0, -50, 0}});
+constexpr Pose kAirJabOnLine = Plus(kAirJab, {{4, 0, 12, 0}});
+constexpr Pose kAirElbowOnLine = Plus(kAirElbow, {{4, 0, -15, 0}});
+constexpr Pose kPalmOutOnLine = Plus(kPalmOut, {{4, 0, -20, 0}});
+constexpr Pose kCrossOutOnLine = Plus(kCrossOut, {{4, 0, -10, 0}});
+constexpr Pose kStompOutOnLine = Plus(kStompOut, {{4, 0, -10, 0}});
+
 constexpr fig::Vec3 Z(float z) { return {0, 0, z}; }
 
 // ---- motions ------------------------------------------------------------------------------
@@ -154,72 +169,72 @@ constexpr Motion kMotions[] = {
       {P(&kJabLoad, 3, Ease::Out), Cue(P(&kJabOut, 4, Ease::Snap, Z(0.55f)), kCueLight), Hit(&kJabOut, 3, 13, kHitJab),
        Link(P(&kJabLoad, 5, Ease::InOut, Z(-0.55f))), Link(P(&kStance, 5))}),
     M("cross", 240, &kStance,
-      {P(&kCrossLoad, 4, Ease::Out), Cue(P(&kCrossOut, 4, Ease::Snap, Z(0.9f)), kCueSwing), Hit(&kCrossOut, 3, 7, kHitMid),
+      {P(&kCrossLoad, 4, Ease::Out), Cue(P(&kCrossOutOnLine, 4, Ease::Snap, Z(0.9f)), kCueSwing), Hit(&kCrossOutOnLine, 3, 7, kHitOpen),
        Link(P(&kCrossLoad, 6, Ease::InOut, Z(-0.9f))), P(&kStance, 6)}),
     M("high_kick", 210, &kStance,
-      {Cue(P(&kKickChamber, 8, Ease::Out, Z(1.6f)), kCueShout), Cue(P(&kKickOut, 5, Ease::Snap, Z(1.6f)), kCueHeavy),
-       Hit(&kKickOut, 4, 10, kHitHigh), P(&kKickChamber, 8, Ease::InOut, Z(-1.6f)), Link(P(&kStance, 9, Ease::InOut, Z(-1.6f)))}),
+      {Cue(P(&kKickChamber, 8, Ease::Out, Z(1.6f)), kCueShout), Cue(P(&kKickOutOnLine, 5, Ease::Snap, Z(1.6f)), kCueHeavy),
+       Hit(&kKickOutOnLine, 4, 10, kHitHigh7), P(&kKickChamber, 8, Ease::InOut, Z(-1.6f)), Link(P(&kStance, 9, Ease::InOut, Z(-1.6f)))}),
     M("side_thrust", 290, &kStance,
       {P(&kSideChamber, 8, Ease::Out, Z(1.8f)), Cue(P(&kSideOut, 5, Ease::Snap, Z(1.8f)), kCueHeavy),
        Hit(&kSideOut, 4, 16, kHitMid7), P(&kSideChamber, 8, Ease::InOut, Z(-1.8f)), Link(P(&kStance, 10, Ease::InOut, Z(-1.8f)))}),
     M("palm_low", 241, &kLow,
-      {P(&kPalmLoad, 5, Ease::Out), Cue(P(&kPalmOut, 4, Ease::Snap, Z(1.4f)), kCueSwing), Hit(&kPalmOut, 4, 13, kHitMid),
+      {P(&kPalmLoad, 5, Ease::Out), Cue(P(&kPalmOutOnLine, 4, Ease::Snap, Z(1.4f)), kCueSwing), Hit(&kPalmOutOnLine, 4, 13, kHitMid7),
        Link(P(&kPalmLoad, 7, Ease::InOut, Z(-1.4f))), P(&kLow, 6)}),
     M("spin_kick_low", 242, &kLow,
-      {P(&kSpinLoad, 6, Ease::Out, Z(1.0f)), Cue(Plant(P(&kSpinOut, 7, Ease::Snap), 16), kCueHeavy),
-       Hit(&kSpinOut, 4, 10, kHitHigh7), Plant(P(&kSpinHome, 10, Ease::InOut), 16), P(&kSpinHome, 4, Ease::Linear)}),
+      {P(&kSpinLoad, 6, Ease::Out, Z(1.0f)), Cue(Plant(P(&kSpinOutOnLine, 7, Ease::Snap), 16), kCueHeavy),
+       Hit(&kSpinOutOnLine, 4, 10, kHitHigh7), Plant(P(&kSpinHome, 10, Ease::InOut), 16), P(&kSpinHome, 4, Ease::Linear)}),
     // Crouching buttons 1, 3, 2, 4.
     M("crouch_jab", 37, &kCrouch,
       {Cue(P(&kCrJab, 4, Ease::Snap, Z(0.3f)), kCueLight), Hit(&kCrJab, 3, 13, kHitJab),
        Link(P(&kCrouch, 8, Ease::InOut, Z(-0.3f)))}),
     M("crouch_kick", 38, &kCrouch,
-      {P(&kCrKickLoad, 4, Ease::Out), Cue(P(&kCrKick, 4, Ease::Snap, Z(1.2f)), kCueSwing), Hit(&kCrKick, 3, 16, kHitLow),
+      {P(&kCrKickLoad, 4, Ease::Out), Cue(P(&kCrKick, 4, Ease::Snap, Z(1.2f)), kCueSwing), Hit(&kCrKick, 3, 16, kHitLowHeavy),
        Link(P(&kCrouch, 10, Ease::InOut, Z(-1.2f)))}),
     M("crouch_punch", 39, &kCrouch,
-      {Cue(P(&kCrPunch, 5, Ease::Snap, Z(1.0f)), kCueSwing), Hit(&kCrPunch, 3, 7, kHitLow),
+      {Cue(P(&kCrPunchOnLine, 5, Ease::Snap, Z(1.0f)), kCueSwing), Hit(&kCrPunchOnLine, 3, 7, kHitLow),
        Link(P(&kCrouch, 10, Ease::InOut, Z(-1.0f)))}),
     M("sweep", 40, &kCrouch,
       {P(&kSweepLoad, 5, Ease::Out, Z(0.8f)), Cue(Plant(P(&kSweepOut, 5, Ease::Snap, Z(0.8f)), 16), kCueHeavy),
-       Hit(&kSweepOut, 4, 10, kHitSweep), P(&kSweepLoad, 8, Ease::InOut, Z(-1.6f)), P(&kCrouch, 6)}),
+       Hit(&kSweepOut, 4, 10, kHitLowHeavy), P(&kSweepLoad, 8, Ease::InOut, Z(-1.6f)), P(&kCrouch, 6)}),
     // Directional attacks: forward, down-forward, back with buttons 1/2 and 3/4.
     M("lunge_punch", 181, &kStance,
-      {P(&kLungeLoad, 5, Ease::Out), Cue(P(&kLungeOut, 5, Ease::Snap, Z(2.4f)), kCueSwing), Hit(&kLungeOut, 3, 13, kHitMid),
+      {P(&kLungeLoad, 5, Ease::Out), Cue(P(&kLungeOut, 5, Ease::Snap, Z(2.4f)), kCueSwing), Hit(&kLungeOut, 3, 13, kHitOpen),
        Link(P(&kJabLoad, 8, Ease::InOut, Z(-1.2f))), P(&kStance, 6)}),
     M("uppercut", 188, &kStance,
       {P(&kUpperDip, 6, Ease::Out, Z(0.8f)), Cue(P(&kUpperOut, 5, Ease::Snap, Z(1.0f)), kCueHeavy),
        Hit(&kUpperOut, 3, 7, kHitLaunch), P(&kUpperOut, 5, Ease::Linear), Link(P(&kStance, 10, Ease::InOut, Z(-1.8f)))}),
     M("backfist", 189, &kStance,
       {P(&kBackfistLoad, 5, Ease::Out), Cue(P(&kBackfistOut, 4, Ease::Snap, Z(0.8f)), kCueSwing),
-       Hit(&kBackfistOut, 3, 13, kHitHigh), Link(P(&kStance, 10, Ease::InOut, Z(-0.8f)))}),
+       Hit(&kBackfistOut, 3, 13, kHitOpen), Link(P(&kStance, 10, Ease::InOut, Z(-0.8f)))}),
     M("slide_kick", 211, &kStance,
       {P(&kSlideLoad, 5, Ease::Out), Cue(P(&kSlideOut, 6, Ease::Out, Z(3.4f)), kCueFall), Hit(&kSlideOut, 5, 16, kHitSweep, Z(0.8f)),
        P(&kCrouch, 8, Ease::InOut, Z(-1.2f)), P(&kStance, 8)}),
     M("spinning_heel", 216, &kStance,
-      {P(&kHeelLoad, 6, Ease::Out, Z(0.6f)), Cue(Plant(P(&kHeelOut, 7, Ease::Snap), 16), kCueHeavy),
-       Hit(&kHeelOut, 3, 10, kHitHeavy), Plant(P(&kHeelHome, 10, Ease::InOut), 16), P(&kHeelHome, 4, Ease::Linear)}),
+      {P(&kHeelLoad, 6, Ease::Out, Z(0.6f)), Cue(Plant(P(&kHeelOutOnLine, 7, Ease::Snap), 16), kCueHeavy),
+       Hit(&kHeelOutOnLine, 3, 10, kHitHeavy), Plant(P(&kHeelHome, 10, Ease::InOut), 16), P(&kHeelHome, 4, Ease::Linear)}),
     M("flying_kick", 217, &kStance,
       {P(&kFlyLoad, 5, Ease::Out), Cue(P(&kFlyOut, 6, Ease::Out, {0, 2.2f, 2.6f}), kCueHeavy),
        Hit(&kFlyOut, 4, 16, kHitMid7, Z(0.6f)), Cue(P(&kFlyLand, 5, Ease::In, {0, -2.2f, 0.2f}), kCueLand),
        P(&kStance, 7, Ease::InOut)}),
     M("stomp_kick", 250, &kStance,
-      {P(&kStompLoad, 5, Ease::Out, Z(0.6f)), Cue(P(&kStompOut, 4, Ease::Snap, Z(1.0f)), kCueSwing),
-       Hit(&kStompOut, 3, 10, kHitLow), Link(P(&kStance, 9, Ease::InOut, Z(-1.6f)))}),
+      {P(&kStompLoad, 5, Ease::Out, Z(0.6f)), Cue(P(&kStompOutOnLine, 4, Ease::Snap, Z(1.0f)), kCueSwing),
+       Hit(&kStompOutOnLine, 3, 10, kHitLowHeavy), Link(P(&kStance, 9, Ease::InOut, Z(-1.6f)))}),
     // In the air: vertical (325, 327, 219, 298) and diagonal (326, 328, 229, 289) jumps.
     M("air_jab", 325, &kAirTuck,
-      {Cue(P(&kAirJab, 4, Ease::Snap), kCueLight), Hit(&kAirJab, 4, 13, kHitHigh), P(&kAirTuck, 6)}, false),
+      {Cue(P(&kAirJabOnLine, 4, Ease::Snap), kCueLight), Hit(&kAirJabOnLine, 4, 13, kHitHigh7), P(&kAirTuck, 6)}, false),
     M("air_cross", 326, &kAirTuck,
-      {Cue(P(&kAirCross, 4, Ease::Snap), kCueLight), Hit(&kAirCross, 4, 7, kHitHigh), P(&kAirTuck, 6)}, false),
+      {Cue(P(&kAirCrossOnLine, 4, Ease::Snap), kCueLight), Hit(&kAirCrossOnLine, 4, 7, kHitHigh), P(&kAirTuck, 6)}, false),
     M("air_chop", 327, &kAirTuck,
-      {P(&kAirChopLoad, 4, Ease::Out), Cue(P(&kAirChop, 3, Ease::Snap), kCueSwing), Hit(&kAirChop, 4, 7, kHitMid),
+      {P(&kAirChopLoad, 4, Ease::Out), Cue(P(&kAirChopOnLine, 3, Ease::Snap), kCueSwing), Hit(&kAirChopOnLine, 4, 7, kHitMid7),
        P(&kAirTuck, 6)}, false),
     M("air_elbow", 328, &kAirTuck,
-      {Cue(P(&kAirElbow, 5, Ease::Snap), kCueSwing), Hit(&kAirElbow, 5, 6, kHitMid), P(&kAirTuck, 6)}, false),
+      {Cue(P(&kAirElbowOnLine, 5, Ease::Snap), kCueSwing), Hit(&kAirElbowOnLine, 5, 6, kHitMid7), P(&kAirTuck, 6)}, false),
     M("air_kick", 219, &kAirTuck,
       {Cue(P(&kAirKick, 4, Ease::Snap), kCueSwing), Hit(&kAirKick, 5, 16, kHitMid7), P(&kAirTuck, 6)}, false),
     M("air_double_kick", 229, &kAirTuck,
       {Cue(P(&kAirDoubleKick, 4, Ease::Snap), kCueSwing), Hit(&kAirDoubleKick, 6, 16, kHitMid7), P(&kAirTuck, 6)}, false),
     M("air_roundhouse", 298, &kAirTuck,
-      {Cue(P(&kAirRound, 5, Ease::Snap), kCueHeavy), Hit(&kAirRound, 4, 10, kHitHigh7), P(&kAirTuck, 6)}, false),
+      {Cue(P(&kAirRoundOnLine, 5, Ease::Snap), kCueHeavy), Hit(&kAirRoundOnLine, 4, 10, kHitHigh7), P(&kAirTuck, 6)}, false),
     M("air_side_kick", 289, &kAirTuck,
       {Cue(P(&kAirSide, 5, Ease::Snap), kCueHeavy), Hit(&kAirSide, 6, 16, kHitHigh7), P(&kAirTuck, 6)}, false),
     // From guard: both palms driven out, unblockable; the fighter stays safe for most of it.

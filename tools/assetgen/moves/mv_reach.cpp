@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <initializer_list>
 #include <memory>
@@ -100,6 +101,48 @@ float Mv_Reach(const Move& mv, int character) {
       front = std::max(front, fig::Apply(pm[f.part].r, fig::Vec3{c[0], c[1], c[2]}).z + pm[f.part].t.z + f.offset.z);
   }
   return front + 0.8f;
+}
+
+float Mv_OffLine(const Move& mv, int character) {
+  fig::Skeleton skel;
+  fig::Fig_BuildSkeleton(character, skel);
+  mot::Joints joints;
+  mot::Mot_JointsOf(skel, joints);
+  std::vector<mot::BakedFrame> frames;
+  mot::Mot_Bake(mv.motion, joints, frames);
+  const fig::Model& model = Model_Of(character);
+  float best = 1e9f;
+  for (const mot::BakedFrame& f : frames) {
+    if (f.part < 2 || f.part > 21 || f.hit == 5 || Is_Projectile(f.hit)) continue;
+    mot::PartMatrix pm[22];
+    mot::Mot_Unpack(f.key, pm);
+    float lo = 1e9f, hi = -1e9f;
+    for (const auto& c : model.boxes[f.part].corner) {
+      const float x = fig::Apply(pm[f.part].r, fig::Vec3{c[0], c[1], c[2]}).x + pm[f.part].t.x + f.offset.x;
+      lo = std::min(lo, x);
+      hi = std::max(hi, x);
+    }
+    const float off = lo > 0 ? lo : hi < 0 ? hi : 0.0f;
+    if (std::fabs(off) < std::fabs(best)) best = off;
+  }
+  return best > 1e8f ? 0.0f : best;
+}
+
+void Mv_FitLine(Move& mv, int character, const mot::Pose* (*keep)(const mot::Pose&)) {
+  constexpr float kOnLine = 0.4f;        // sideways slack: the defender's body is wider than this
+  constexpr float kDegreesPerUnit = 12;  // a strike some five units out moves this much per degree
+  for (int round = 0; round < 4; ++round) {
+    const float off = Mv_OffLine(mv, character);
+    if (std::fabs(off) <= kOnLine) return;
+    const float turn = -off * kDegreesPerUnit;
+    for (int i = 0; i < mv.motion.phase_count; ++i) {
+      mot::Phase& ph = mv.motion.phases[i];
+      if (ph.strike_part < 2 || Is_Projectile(ph.hit)) continue;
+      mot::Pose p = *ph.pose;
+      p.ang[4][1] += turn;
+      ph.pose = keep(p);
+    }
+  }
 }
 
 void Mv_FitReach(Move& mv, int character, float target) {

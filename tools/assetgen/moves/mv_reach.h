@@ -20,4 +20,12 @@ float Mv_Reach(const Move& mv, int character);
 // `target`; a move that already does is left alone.
 void Mv_FitReach(Move& mv, int character, float target);
 
+// How far sideways of the fighters' line the move's strikes pass (signed: + to the figure's
+// right), at the strike frame that comes closest to it; 0 when a strike crosses it.
+float Mv_OffLine(const Move& mv, int character);
+
+// Pivots the body of every striking beat toward the line until its strikes cross the
+// opponent's body instead of passing beside it; `keep` stores the turned poses.
+void Mv_FitLine(Move& mv, int character, const mot::Pose* (*keep)(const mot::Pose&));
+
 }  // namespace mv

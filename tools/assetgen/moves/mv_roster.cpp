@@ -66,10 +66,10 @@ constexpr Row kRows[15][kMaxRows] = {
      {266, A::SuperSpin, 411, 431, false}, {267, A::SpinKick, 11, 0, false}, {273, A::SuperGrab, 410, 0, true},
      {274, A::Grab, 12, 0, false}, {305, A::Rush, 35, 10, false}, {306, A::Uppercut, 20, 0, false},
      {307, A::HeelDrop, 11, 0, false}, {500, A::SuperRush, 435, 431, true}, {510, A::SuperSpin, 411, 431, true}},  // 0
-    {{190, A::SuperPalms, 424, 0, false}, {192, A::TwinKick, 4, 8, false}, {201, A::FlyingKick, 8, 0, true},
+    {{190, A::SuperPalms, 424, 0, false}, {192, A::TwinKick, 7, 11, false}, {201, A::FlyingKick, 11, 0, true},
      {226, A::SpinKick, 11, 0, false}, {227, A::SuperSpin, 411, 431, false}, {228, A::Sweep, 12, 0, false},
-     {266, A::SuperRush, 435, 432, true}, {268, A::Backfist, 8, 0, false}, {270, A::FlyingKnee, 10, 0, false},
-     {271, A::HeelDrop, 11, 0, false}, {272, A::TwinKick, 4, 8, true}, {305, A::Rush, 35, 10, false},
+     {266, A::SuperRush, 435, 432, true}, {268, A::Backfist, 11, 0, false}, {270, A::FlyingKnee, 10, 0, false},
+     {271, A::HeelDrop, 11, 0, false}, {272, A::TwinKick, 7, 11, true}, {305, A::Rush, 35, 10, false},
      {306, A::SuperSpin, 411, 431, true}},  // 1
     {{190, A::Straight, 10, 0, true}, {191, A::Uppercut, 20, 0, false}, {192, A::Charge, 10, 0, false},
      {193, A::FlyingKick, 8, 0, false}, {197, A::SuperGrab, 410, 0, false}, {200, A::Backfist, 8, 0, false},
@@ -106,15 +106,15 @@ constexpr Row kRows[15][kMaxRows] = {
      {266, A::SuperRush, 435, 432, false}, {273, A::SuperGrab, 410, 0, true}, {305, A::HeelDrop, 11, 0, false},
      {306, A::FlyingKnee, 10, 0, false}, {307, A::Sweep, 12, 0, false}},  // 8
     {{190, A::Blades, 7, 10, false}, {191, A::SpinKick, 11, 0, false}, {197, A::SuperGrab, 410, 0, false},
-     {220, A::Grab, 10, 0, false}, {221, A::SuperGrab, 410, 0, true}, {266, A::Backfist, 8, 0, false},
-     {267, A::Blades, 8, 12, false}, {268, A::FlyingKick, 8, 0, false}, {269, A::SuperBlades, 407, 432, false},
+     {220, A::Grab, 10, 0, false}, {221, A::SuperGrab, 410, 0, true}, {266, A::Backfist, 11, 0, false},
+     {267, A::Blades, 8, 12, false}, {268, A::FlyingKick, 11, 0, false}, {269, A::SuperBlades, 407, 432, false},
      {270, A::Sweep, 12, 0, false}, {271, A::SuperSpin, 411, 431, false}, {305, A::Rush, 35, 10, false},
-     {306, A::Uppercut, 20, 0, false}, {307, A::TwinKick, 4, 8, false}},  // 9
-    {{190, A::TwinKick, 4, 8, false}, {191, A::SpinKick, 11, 0, true}, {192, A::Sweep, 12, 0, true},
+     {306, A::Uppercut, 20, 0, false}, {307, A::TwinKick, 7, 11, false}},  // 9
+    {{190, A::TwinKick, 7, 11, false}, {191, A::SpinKick, 11, 0, true}, {192, A::Sweep, 12, 0, true},
      {193, A::SuperSpin, 411, 431, false}, {195, A::SuperRush, 435, 432, true}, {196, A::FlyingKnee, 10, 0, false},
      {226, A::HeelDrop, 11, 0, false}, {227, A::Straight, 10, 0, false}, {228, A::Uppercut, 20, 0, false},
-     {266, A::Rush, 35, 10, true}, {267, A::Backfist, 8, 0, false}, {268, A::Charge, 10, 0, false},
-     {269, A::FlyingKick, 8, 0, false}, {270, A::HeelDrop, 11, 0, true}, {272, A::Blades, 7, 10, false},
+     {266, A::Rush, 35, 10, true}, {267, A::Backfist, 11, 0, false}, {268, A::Charge, 10, 0, false},
+     {269, A::FlyingKick, 11, 0, false}, {270, A::HeelDrop, 11, 0, true}, {272, A::Blades, 7, 10, false},
      {273, A::SuperGrab, 410, 0, false}, {305, A::SuperSpin, 411, 432, true}},  // 10
     {{190, A::Palms, 24, 0, false}, {191, A::Uppercut, 20, 0, true}, {193, A::SuperRush, 435, 431, false},
      {194, A::FlyingKick, 8, 0, false}, {195, A::SuperSpin, 411, 432, false}, {196, A::SuperRush, 435, 431, true},
@@ -414,9 +414,11 @@ void Mv_CharacterMoves(int character, std::vector<Move>& out) {
     Move mv = Build_Move(character, row.action, st, row);
     const int band = Mv_ReachBand(character, row.action);
     const float target = band > 0 ? static_cast<float>(band) : kCloseReach;
+    Mv_FitLine(mv, character, Keep);
     Mv_FitReach(mv, character, target);
     Stride_Lunge(mv, row.mirror);
     Mv_FitReach(mv, character, target);  // the stride moves the striking limb a little
+    Mv_FitLine(mv, character, Keep);
     out.push_back(std::move(mv));
   };
   for (const Row* row : Rows_Of(character)) attack(*row);
