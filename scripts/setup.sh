@@ -12,7 +12,7 @@ PACKAGES=(
   libsdl2-dev libsdl2-mixer-dev                                    # joysticks, sound, music
   libfreetype-dev fonts-dejavu-core                                # text pictures
   espeak-ng sox fluidsynth fluid-soundfont-gm vorbis-tools         # voices and music
-  xvfb xauth xdotool                                               # real-window smoke tests
+  xvfb xauth xdotool python3                                       # real-window tests (python3 keeps their pictures)
 )
 
 install_packages() {
