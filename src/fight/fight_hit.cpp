@@ -116,6 +116,7 @@ void begin_strike(int attacker, int part) {
   a.gauge_gain = 1;
   if (is_projectile_kind(a.hit_kind)) {
     Launch_Projectile(attacker, part);
+    Hits.projectile_action[attacker] = a.action;
     a.hit_new = 0;  // the projectile strikes, not the hand that threw it
   }
 }

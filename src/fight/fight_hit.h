@@ -7,6 +7,12 @@
 struct HitState {
   std::int32_t last_part[2];  // frame_part met by each fighter's previous strike test
   float contact[3];           // contact point of the last blow
+  // What each attacker has landed (a blow taken unguarded, or a hold taken): how many, and
+  // the move of the last one (for a projectile, the move that threw it). Review tools read
+  // these; the fight never does.
+  std::int32_t landed[2];
+  std::int32_t landed_action[2];
+  std::int32_t projectile_action[2];  // the move that threw each fighter's latest projectile
 };
 extern HitState Hits;
 
@@ -27,5 +33,8 @@ std::int32_t Strike_Height(std::int32_t kind, std::int32_t* special);
 int Cue_Sound(int cue, int character);
 // Spreads a burning effect of `kind` (0..2) over the fighter's whole body, phases staggered.
 void spread_part_effect(int fighter, int kind);
+// Being thrown or held: the fighter's motion is played out by the pair, and blows it takes
+// meanwhile hurt without starting another reaction.
+bool is_thrown_or_held(int fighter);
 // Puts a fighter straight into a reaction at its first frame (the hit code's own set-up).
 void set_reaction(int fighter, int action);

@@ -240,13 +240,14 @@ void hit_sparks(int attacker, int guard_class, int damage) {
 }
 
 // The blow that empties the defender's life ends the round.
-void deciding_blow(int attacker, int defender, int damage, int reaction) {
+// A fighter beaten while thrown or held plays its motion out and stays down where it lands.
+void deciding_blow(int attacker, int defender, int damage, int reaction, bool held) {
   Fighter& a = fighters[attacker];
   Fighter& d = fighters[defender];
   Match.hit_stop = 30;
   const int down = CharacterVoices[Match.character[defender] & 15].down;
   if (down >= 0) Queue_Sound(2 * defender + 1, down);
-  if (reaction != 157 && reaction != 158 && reaction != 167) {
+  if (!held && reaction != 157 && reaction != 158 && reaction != 167) {
     d.action = 170;
     d.frame = d.act_first[170];
   }
@@ -262,7 +263,19 @@ void deciding_blow(int attacker, int defender, int damage, int reaction) {
   }
 }
 
+// Counts a blow that landed for the review tools.
+void note_landed(int attacker, int by_projectile) {
+  ++Hits.landed[attacker];
+  Hits.landed_action[attacker] = by_projectile ? Hits.projectile_action[attacker] : fighters[attacker].action;
+}
+
 }  // namespace
+
+bool is_thrown_or_held(int fighter) {
+  const int a = fighters[fighter].action;
+  if (!fighters[fighter].busy) return false;
+  return (a >= 82 && a <= 101) || (a >= 410 && a <= 479) || (a >= 570 && a <= 593);
+}
 
 void set_reaction(int fighter, int action) {
   Fighter& f = fighters[fighter];
@@ -302,6 +315,8 @@ void apply_blow(int attacker, int defender, int guard_class, int damage, int by_
   }
 
   int dealt = 0;
+  bool held = false;     // thrown or held: the pair's motion goes on
+  bool grabbed = false;  // this blow took hold (the hold has played the hit shout)
   if (guarded) {
     a.hit_new = -1;
     if (a.super_mode) {
@@ -311,9 +326,12 @@ void apply_blow(int attacker, int defender, int guard_class, int damage, int by_
     }
   } else {
     if (try_counter(attacker, defender, by_projectile)) return;
+    note_landed(attacker, by_projectile);
     cpu_learns(attacker, defender, damage);
-    if (!by_projectile && try_hit_grab(attacker, defender)) return;
     if (!d.reacting && !d.busy) a.combo = 0;  // it had recovered: a new combo begins
+    held = is_thrown_or_held(defender);
+    // A special move that takes hold still deals its blow; the held motion plays on.
+    if (!by_projectile && !held && try_hit_grab(attacker, defender)) held = grabbed = true;
     d.knock_force = std::max(damage, 5);
     d.queued = 0;
     dealt = scaled_damage(attacker, defender, damage);
@@ -326,29 +344,33 @@ void apply_blow(int attacker, int defender, int guard_class, int damage, int by_
       Match.first_strike = banner_side(attacker);
       Match.first_strike_frame = 0;
     }
-    if (reaction < 0) {
-      reaction = plain_reaction(a, d, guard_class, damage);
-      reaction = heavy_reaction(defender, guard_class, dealt, a.launch_speed, reaction);
-    }
-    set_reaction(defender, reaction);
-    if (reaction == 157 || reaction == 158 || reaction == 167 || airborne(defender)) {
-      d.air_timer = std::max(d.air_timer - dealt, -20);
-      start_launch(defender, dealt, a.launch_speed);
+    if (!held) {
+      if (reaction < 0) {
+        reaction = plain_reaction(a, d, guard_class, damage);
+        reaction = heavy_reaction(defender, guard_class, dealt, a.launch_speed, reaction);
+      }
+      set_reaction(defender, reaction);
+      if (reaction == 157 || reaction == 158 || reaction == 167 || airborne(defender)) {
+        d.air_timer = std::max(d.air_timer - dealt, -20);
+        start_launch(defender, dealt, a.launch_speed);
+      }
     }
   }
 
   // Reaction timing, sound and sparks.
-  d.reel_frames = (d.action == 153 || d.action == 159) ? 15 : 14;
-  d.reel_push = 0;
-  if (a.hit_special) {
-    d.reel_frames = 0;
-    d.reel_push = 10;
+  if (!held) {
+    d.reel_frames = (d.action == 153 || d.action == 159) ? 15 : 14;
+    d.reel_push = 0;
+    if (a.hit_special) {
+      d.reel_frames = 0;
+      d.reel_push = 10;
+    }
   }
   const int part = a.frame_part[a.frame];
   Queue_Sound(2 * attacker, part == 19 || part == 20 ? SND_WEAPON_HIT : SND_HIT);
   if (!guarded) hit_sparks(attacker, guard_class, dealt);
   const bool alive = d.life > d.damage;
-  if (alive && !guarded) {
+  if (alive && !guarded && !grabbed) {
     const int shout = CharacterVoices[Match.character[defender] & 15].hurt;
     if (shout >= 0) Queue_Sound(2 * defender + 1, shout);
   }
@@ -357,7 +379,7 @@ void apply_blow(int attacker, int defender, int guard_class, int damage, int by_
     Match.hit_stop = std::min(dealt / 4 + 2, 5);
     Spawn_HitEffect(attacker, Hits.contact[0], Hits.contact[1], Hits.contact[2], 3, 0);
   } else {
-    deciding_blow(attacker, defender, dealt, reaction);
+    deciding_blow(attacker, defender, dealt, reaction, held);
   }
   if (d.damage > 0) d.perfect = 0;
 }

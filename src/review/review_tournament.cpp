@@ -13,6 +13,7 @@
 #include "assets/asset_image.h"
 #include "cpu/cpu.h"
 #include "fight/fight.h"
+#include "fight/fight_hit.h"
 #include "fight/fight_moves.h"
 #include "fight/fight_state.h"
 #include "platform/headless/headless.h"
@@ -30,6 +31,7 @@ struct Tally {
   long wins, rounds, ko, timeouts, frames;
   long usage[MAX_ACTIONS];  // times the character entered each action
   long stay[MAX_ACTIONS];   // the most frames it spent in one go in each action
+  long landed[MAX_ACTIONS]; // blows each action landed (hit unguarded or took hold)
 };
 
 // The tournament's results; written only by this file's steps.
@@ -118,8 +120,14 @@ void play_round(const int character[2], int level) {
   long frames = 0;
   const auto begin = std::chrono::steady_clock::now();
   while (end == ROUND_RUNNING && frames < ROUND_FRAME_LIMIT) {
+    const std::int32_t landed[2] = {Hits.landed[0], Hits.landed[1]};
     step();
     ++frames;
+    for (int i = 0; i < 2; ++i) {
+      const int a = Hits.landed_action[i];
+      if (Hits.landed[i] != landed[i] && a >= 0 && a < MAX_ACTIONS)
+        T.tally[character[i]].landed[a] += Hits.landed[i] - landed[i];
+    }
     for (int i = 0; i < 2; ++i) {
       const int a = fighters[i].action;
       if (a != last[i] && a >= 0 && a < MAX_ACTIONS) ++T.tally[character[i]].usage[a];
@@ -133,6 +141,20 @@ void play_round(const int character[2], int level) {
   T.seconds += std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
   T.frames += frames;
   count_round(character, end == ROUND_RUNNING ? ROUND_TIME : end, frames);
+}
+
+// Each special move of a character (its command slots' actions) with the blows it landed, and
+// how many it lands in 50 rounds of the character's.
+void print_specials(int c) {
+  const Tally& t = T.tally[c];
+  bool seen[MAX_ACTIONS] = {};
+  for (const std::int16_t action : MoveTables.Special_Table[c]) {
+    if (action == NO_MOVE || action < 0 || action >= MAX_ACTIONS || seen[action]) continue;
+    seen[action] = true;
+    const double per50 = t.rounds > 0 ? 50.0 * t.landed[action] / t.rounds : 0.0;
+    std::printf("special char=%d action=%d started=%ld landed=%ld per50=%.1f%s\n", c, action,
+                t.usage[action], t.landed[action], per50, per50 < 1.0 ? " RARE" : "");
+  }
 }
 
 void print_results(int usage) {
@@ -149,6 +171,13 @@ void print_results(int usage) {
         if (T.tally[c].usage[a] > 0) std::printf(" %d:%ld", a, T.tally[c].usage[a]);
       std::printf("\n");
     }
+    for (int c = 0; c < CHARACTERS; ++c) {
+      std::printf("landed char=%d", c);
+      for (int a = 0; a < MAX_ACTIONS; ++a)
+        if (T.tally[c].landed[a] > 0) std::printf(" %d:%ld", a, T.tally[c].landed[a]);
+      std::printf("\n");
+    }
+    for (int c = 0; c < CHARACTERS; ++c) print_specials(c);
     // Staying put is only expected standing, lying and in a victory pose.
     constexpr int kResting[] = {0, 12, 13, 22, 23, 24, 50, 51};
     for (int c = 0; c < CHARACTERS; ++c)

@@ -195,6 +195,39 @@ TEST_F(Blow, TheBlowThatEmptiesTheLifeBarStopsTheFightLonger) {
   EXPECT_EQ(fighters[1].busy, 1);
 }
 
+TEST_F(Blow, ThrowsAndHoldsHurtWithoutBreakingThePair) {
+  // A throw's slam needs no contact and keeps the thrown fighter's motion playing.
+  stand_in(0, 80);
+  stand_in(1, 82);
+  fighters[1].busy = fighters[1].reacting = 1;
+  fighters[1].frame += 5;
+  const int thrown_frame = fighters[1].frame;
+  strike_frame(431, 6);
+  place_box(1, 3, 40.0f, 0.0f, 0.0f, 0.5f);  // nowhere near the forearm
+  fighter_strike(0);
+  EXPECT_EQ(fighters[1].damage, 15);
+  EXPECT_EQ(fighters[1].action, 82);
+  EXPECT_EQ(fighters[1].frame, thrown_frame);
+  EXPECT_EQ(Hits.landed[0], 1);
+  EXPECT_EQ(Hits.landed_action[0], 80);
+
+  // Beaten in the throw: the motion still plays out instead of the beaten fall.
+  fighters[1].damage = 80;
+  apply_blow(0, 1, GUARD_ALWAYS, 15, 0);
+  EXPECT_EQ(fighters[1].action, 82);
+  EXPECT_EQ(fighters[1].busy, 1);
+  EXPECT_EQ(Match.hit_stop, 30);
+
+  // A special move that takes hold deals its blow as it seizes the defender.
+  SetUp();
+  stand_in(0, 197);
+  apply_blow(0, 1, GUARD_MID, 10, 0);
+  EXPECT_EQ(fighters[0].action, 340);
+  EXPECT_EQ(fighters[1].action, 410);
+  EXPECT_EQ(fighters[1].damage, 10);
+  EXPECT_EQ(Hits.landed_action[0], 197);
+}
+
 TEST_F(Blow, AHeldStrikeConnectsOnceAndTheNextStrikeConnectsAgain) {
   strike_frame(1);  // a jab: 3 points
   for (int i = 0; i < 4; ++i) {  // the frame is held (hit-stop, a held animation)

@@ -133,6 +133,8 @@ constexpr int kCueShout = 202, kCueSlam = 203;
 // Hit attributes (class x 100 + kind).
 constexpr int kHitOpen = 100, kHitJab = 1, kHitHigh = 2, kHitLow = 3, kHitMid = 4, kHitMid7 = 7, kHitHigh7 = 8, kHitSweep = 9,
               kHitHeavy = 10, kHitLowHeavy = 12, kHitLaunch = 16, kHitUnblockable = 30;
+// A throw's slam: needs no contact, cannot be guarded, and hurts without breaking the pair.
+constexpr int kHitThrow = 431, kThrowPart = 6;
 
 // The parts of the catalogue, one per file.
 std::span<const Motion> Mot_StandMotions();     // idles, walks, dashes, turns, guards, crouching

@@ -82,13 +82,14 @@ constexpr fig::Vec3 Y(float y, float z = 0) { return {0, y, z}; }
 constexpr fig::Vec3 Z(float z) { return {0, 0, z}; }
 
 // The thrower heaves while the thrown fighter rises off its hands and slams as it comes down: the
-// hurl's two halves are the thrown fighter's flight up and down.
+// hurl's two halves are the thrown fighter's flight up and down. The slam hurts as the thrown
+// fighter lands.
 constexpr Motion Throw(const char* name, int action, const Pose* start, const Pose* grab, const Pose* lift,
                        const Pose* heave, const Pose* hurl) {
   return M(name, action, start,
            {Cue(P(grab, kGrabFrames, Ease::Out, Z(0.2f)), kCueShout), P(lift, kLiftFrames, Ease::InOut),
             P(heave, kHurlFrames / 2, Ease::Out), Cue(P(hurl, kHurlFrames - kHurlFrames / 2, Ease::In), kCueHeavy),
-            P(hurl, 6, Ease::Linear), P(start, 14, Ease::InOut, Z(-0.2f))});
+            Hit(hurl, 6, kThrowPart, kHitThrow), P(start, 14, Ease::InOut, Z(-0.2f))});
 }
 
 // A thrown fighter: held, lifted, hurled up into `air` and down onto the floor as `toss` says. The

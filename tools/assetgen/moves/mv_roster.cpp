@@ -252,6 +252,9 @@ Move Build_Move(int character, int action, const Style& st, const Row& row) {
   return mv;
 }
 
+// A hold's slam: no contact needed, never guarded (class 4), 15 points; struck with a forearm.
+constexpr int kSlamHit = 431, kSlamPart = 6;
+
 // One side of a hold script as a move. The attacker's side takes the character's style; the
 // defender's side is the same for every character.
 Move Build_Hold(int action, HoldScript script, bool attacker, const Style& st) {
@@ -274,6 +277,10 @@ Move Build_Hold(int action, HoldScript script, bool attacker, const Style& st) {
     ph.ease = b.ease;
     ph.cue = attacker ? b.attacker_cue : b.victim_cue;
     ph.link = attacker && b.link;
+    if (attacker && b.floor) {  // the slam hurts (a command throw's; a hold's own blow hurt already)
+      ph.strike_part = kSlamPart;
+      ph.hit = kSlamHit;
+    }
     if (!attacker) ph.travel = {0, b.victim_up, b.victim_forward};
     frame += b.frames;
     if (!attacker && b.floor) mv.marks.push_back({frame, 2, 5});
