@@ -59,8 +59,10 @@ void Body_Clothes(Model& m, const Look& lk, const BodyFrame& bf) {
   if (lk.top == Top::Dress || lk.top == Top::Coat) {
     float len = lk.top == Top::Coat ? 1.9f : 1.15f;
     float flare = lk.top == Top::Coat ? 1.3f : 1.45f;
-    Station st[] = {{0, hip * 0.98f, lk.chest_d * 0.9f}, {1, hip * flare, lk.chest_d * 1.05f * flare}};
-    Body_Tube(m, P_PELVIS, R_PELVIS, {0, bf.hips + 0.45f, 0.0f}, {0, bf.hips + 0.45f - len, -0.05f}, st, 2, 10,
+    // The front stands well off the hips: a thigh raised in the fighting stance swings forward
+    // under the skirt and must not push through it.
+    Station st[] = {{0, hip * 0.98f, lk.chest_d * 1.15f}, {1, hip * flare, lk.chest_d * 1.25f * flare}};
+    Body_Tube(m, P_PELVIS, R_PELVIS, {0, bf.hips + 0.45f, 0.04f}, {0, bf.hips + 0.45f - len, 0.02f}, st, 2, 10,
               false, false);
   }
   if (lk.gloves == Gloves::Gloves && lk.bulk > 0.8f) {  // leather wristbands
