@@ -60,7 +60,7 @@ void Paint_Modelling(Image& img, const FaceFrame& f, const Look& lk, Rgb skin) {
   const float k = f.px;
   for (int s = -1; s <= 1; s += 2) {
     float ex = f.mid + s * f.eye_dx;
-    Img_Ellipse(img, ex, f.eye_y - 1.0f * f.tall, 9 * k, 5.5f * k * f.tall, Scale(skin, 0.86f), 0.7f);
+    Img_Ellipse(img, ex, f.eye_y - 1.0f * f.tall, 11 * k, 6 * k * f.tall, Scale(skin, 0.8f), 0.75f);
     Img_Ellipse(img, f.mid + s * 20 * k, f.nose_y + 1.5f * k * f.tall, 7 * k, 2.5f * k * f.tall,
                 lk.female ? Mix(skin, Rgb{225, 120, 115}, 0.35f) : Scale(skin, 0.9f), 0.6f);
     Img_Ellipse(img, f.mid + s * 64 * k, (f.eye_y + f.nose_y) * 0.5f, 3.5f * k, 5 * k * f.tall * 0.5f,
@@ -99,10 +99,12 @@ void Paint_Eye(Image& img, const FaceFrame& f, float x, float size, Rgb iris, Ex
   Img_Line(img, x - w * 0.3f, top, x + w * 0.4f, top + 0.1f * h, 2.8f * k, line);
   Img_Line(img, x + w * 0.4f, top + 0.1f * h, x + w * 1.05f, y - 0.1f * h, 2.4f * k, line);
   Img_Line(img, x - w * 0.8f, y + h * 0.9f, x + w * 0.8f, y + h * 0.9f, 0.8f * k, Scale(line, 2.5f), 0.4f);
-  if (female) {  // lashes flick out at the outer corner
-    const float ox = side > 0 ? x + w * 1.05f : x - w * 1.05f, dir = side > 0 ? 1.0f : -1.0f;
-    Img_Line(img, ox - dir * 1.5f * k, y - 0.5f * h, ox + dir * 1.8f * k, y - 1.1f * h, 1.2f * k, line);
-  }
+  // The outer corner lies away from the face's middle; a dark flick there is what shows of the
+  // eye when the head is seen from the side, as it mostly is in a fight.
+  const float dir = x < f.mid ? -1.0f : 1.0f, ox = x + dir * w * 1.05f;
+  Img_Line(img, ox - dir * 2.5f * k, y - 0.4f * h, ox + dir * 1.5f * k, y - 0.1f * h, 2.2f * k, line);
+  if (female)  // lashes flick up at the outer corner
+    Img_Line(img, ox - dir * 1.5f * k, y - 0.5f * h, ox + dir * 2.4f * k, y - 1.3f * h, 1.4f * k, line);
 }
 
 void Paint_Brow(Image& img, const FaceFrame& f, float x, Brow b, Rgb c, Expression e, int side) {
@@ -243,7 +245,7 @@ void Fig_PaintFace(int character, Expression e, Image& img, int colouring) {
     const Rgb iris = Hex(lk.face.iris);
     Paint_Eye(img, f, f.mid - f.eye_dx, lk.face.eye_size, iris, e, 1, lk.female);
     Paint_Eye(img, f, f.mid + f.eye_dx, lk.face.eye_size, iris, e, -1, lk.female);
-    const Rgb brow = Mix(Scale(hair, 0.75f), Rgb{38, 28, 24}, 0.3f);  // a touch darker than the hair, to read from afar
+    const Rgb brow = Mix(Scale(hair, 0.75f), Rgb{38, 28, 24}, 0.45f);  // a touch darker than the hair, to read from afar
     Paint_Brow(img, f, f.mid - f.eye_dx, lk.face.brow, brow, e, -1);
     Paint_Brow(img, f, f.mid + f.eye_dx, lk.face.brow, brow, e, 1);
     Paint_Mouth(img, f, lk.face.mouth, e, skin, lk.female);
