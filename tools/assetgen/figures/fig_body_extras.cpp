@@ -206,7 +206,9 @@ void Body_Attachments(Model& m, int character, const Look& lk, const BodyFrame& 
         float w = count > 1 ? 0.3f : 0.5f;
         p[0] = {x, bf.waist - 0.1f, -lk.chest_d * 0.9f};
         for (int k = 1; k <= 2; ++k) p[k] = p[0] + Vec3{x * 0.12f * k, -0.92f * k, -0.08f * k};
-        Chain(m, i, lk.top != Top::Vest ? R_PELVIS : R_ACCS, p, 2, w, w * 1.15f, 0.04f, 0.04f, 4);
+        // A diamond section, creased down the middle: the fight is mostly seen from the side,
+        // where a flat panel would show only its edge and read as a stick.
+        Chain(m, i, lk.top != Top::Vest ? R_PELVIS : R_ACCS, p, 2, w, w * 1.15f, 0.12f, 0.2f, 4);
         break;
       }
       case Piece::Pad: {  // shoulder plates riding the chest
