@@ -97,7 +97,7 @@ void Body_Torso(Model& m, const Look& lk, const BodyFrame& bf) {
   lf.cap_last = true;
   Mesh_Loft(m, lf, r, 5);
 
-  float nr = lk.head_w * (lk.female ? 0.22f : 0.26f) * (1.0f + 0.25f * lk.bulk);
+  float nr = lk.head_w * (lk.female ? 0.25f : 0.29f) * (1.0f + 0.25f * lk.bulk);  // thin necks read as mannequins
   Station neck[] = {{0, nr * 1.15f, nr * 1.1f}, {1, nr, nr * 0.95f}};
   Vec3 top = bf.joint[P_HEAD] + Vec3{0, 0.32f, 0.04f};
   Body_Tube(m, P_CHEST, armour ? R_PELVIS : R_SKIN, Vec3{0, bf.neck_base - 0.12f, -0.05f}, top, neck, 2, 8,
