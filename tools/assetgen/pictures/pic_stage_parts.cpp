@@ -304,8 +304,10 @@ Canvas Paint_Floor(const StageLook& L) {
         case Floor::Planks: {
           int plank = x / 32, off = (plank * 173) % N;
           float along = static_cast<float>((y + off) % N);
-          float ring = 0.5f + 0.5f * std::sin((x % 32) * 0.35f + Fbm(x / 64.0f, along / 8.0f, L.seed + plank, 3, 8) * 8);
-          col = Scale(Mix(L.floor_a, L.floor_b, ring * 0.6f), Cell_Shade(plank, 0, L.seed));
+          // Grain runs along the plank and only wavers: swirled much more it reads as marble
+          // or rippling water under the close camera.
+          float ring = 0.5f + 0.5f * std::sin((x % 32) * 0.6f + Fbm(x / 64.0f, along / 8.0f, L.seed + plank, 3, 8) * 2.5f);
+          col = Scale(Mix(L.floor_a, L.floor_b, ring * 0.4f), Cell_Shade(plank, 0, L.seed));
           if (x % 32 == 0 || static_cast<int>(along) % 256 == 0) col = Scale(col, 0.45f);
           break;
         }
