@@ -391,7 +391,12 @@ void Paint_Accessory(Image& img, const Ctx& cx, bool scarf) {
   Rgb c = Hex(cx.pal->accent);
   Cloth(img, c, cx.seed + (scarf ? 91 : 97), 0.25f);
   if (scarf) {
-    for (int k = 0; k < 3; ++k) Band(img, img.height * (0.2f + 0.3f * k), img.height * (0.24f + 0.3f * k), Scale(c, 0.6f));
+    // Folds running down the cloth and a hem at each end: bands across it made the tails look
+    // like bundled sticks.
+    for (float fx : {0.3f, 0.7f})
+      Img_Rect(img, img.width * fx - 1, 0, img.width * fx + 1, static_cast<float>(img.height), Scale(c, 0.72f));
+    Band(img, 0, img.height * 0.05f, Scale(c, 0.6f));
+    Band(img, img.height * 0.95f, static_cast<float>(img.height), Scale(c, 0.6f));
   } else {
     Band(img, 0, 2, Hex(cx.pal->trim));
   }
