@@ -82,8 +82,8 @@ void Paint_Eye(Image& img, const FaceFrame& f, float x, float size, Rgb iris, Ex
   const float y = f.eye_y;
   const Rgb line{34, 22, 20};
   if (e == Expression::Hurt) {  // squeezed shut
-    Img_Line(img, x - w, y - 0.2f * h, x + w, y + 0.2f * h, 1.6f * k, line);
-    Img_Line(img, x - w * 0.7f, y + 0.6f * h, x + w * 0.6f, y + 0.5f * h, 1.0f * k, line, 0.6f);
+    Img_Line(img, x - w, y - 0.2f * h, x + w, y + 0.2f * h, 2.6f * k, line);
+    Img_Line(img, x - w * 0.7f, y + 0.6f * h, x + w * 0.6f, y + 0.5f * h, 1.6f * k, line, 0.8f);
     return;
   }
   const float open = e == Expression::Shout ? 1.3f : 1.0f;
