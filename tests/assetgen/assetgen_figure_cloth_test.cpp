@@ -70,8 +70,7 @@ std::vector<P2> Pelvis_Slice(const fig::Model& m, float y) {
 }
 
 // In the fighting stance every point of a thigh that is level with a dress's skirt stays inside
-// the skirt. (A long coat may part over the legs:
-// its wearers stand in trousers of their own.)
+// the skirt. (A long coat may part over the legs: its wearers stand in trousers of their own.)
 TEST(AssetgenFigureCloth, SkirtsCoverTheThighsOfTheFightingStance) {
   int skirts = 0;
   for (int c = 0; c < fig::kCharacters; ++c) {
