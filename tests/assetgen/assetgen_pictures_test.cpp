@@ -234,6 +234,22 @@ TEST_F(AssetgenPictures, TextSpritesKeepTheirLettersInside) {
   }
 }
 
+// The ending's captions break into lines that fit their panels: no letter reaches the panel's
+// sides, where the dark backing has faded out and the screen cuts the picture off.
+TEST_F(AssetgenPictures, EndingCaptionsFitTheirPanels) {
+  ASSERT_TRUE(ok_);
+  for (int panel : {1, 4, 5, 7, 8, 9, 11, 12, 13, 14, 15, 16, 20, 24}) {
+    char name[16];
+    std::snprintf(name, sizeof name, "st_%02d.bmp", panel);
+    Picture p = Load_Picture(dir_ + "/" + name);
+    ASSERT_EQ(p.c, 4) << name;
+    int worst = 0;
+    for (int y = 0; y < p.h; ++y)
+      for (int x : {0, 1, 2, p.w - 3, p.w - 2, p.w - 1}) worst = std::max(worst, p.at(x, y, 3));
+    EXPECT_LT(worst, 40) << name << " has letters at its sides";
+  }
+}
+
 // Another run of the text, effect and fighter pictures writes the same bytes.
 TEST_F(AssetgenPictures, GenerationIsDeterministic) {
   ASSERT_TRUE(ok_);

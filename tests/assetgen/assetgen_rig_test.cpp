@@ -148,8 +148,8 @@ TEST(AssetgenRig, FaceFeaturesSitWhereTheHeadMeshPutsThem) {
   int bridge = lum(128, eye_v);
   // The iris of each eye is darker than the bridge of the nose between them, and the mouth's
   // line darker than the chin below it.
-  EXPECT_LT(lum(128 - 15, eye_v), bridge - 100);
-  EXPECT_LT(lum(128 + 15, eye_v), bridge - 100);
+  EXPECT_LT(lum(128 - 19, eye_v), bridge - 100);
+  EXPECT_LT(lum(128 + 19, eye_v), bridge - 100);
   EXPECT_LT(lum(128, fig::Face_V(0.27f)), lum(128, fig::Face_V(0.12f)) - 40);
 }
 

@@ -1,5 +1,6 @@
 // Clothing pieces, the props of parts 19 and 20, the scarf on the flexible part, and the loose
 // pieces hung on attachment chains.
+#include <algorithm>
 #include <cmath>
 
 #include "figures/fig_body_internal.h"
@@ -59,8 +60,10 @@ void Body_Clothes(Model& m, const Look& lk, const BodyFrame& bf) {
   if (lk.top == Top::Dress || lk.top == Top::Coat) {
     float len = lk.top == Top::Coat ? 1.9f : 1.15f;
     float flare = lk.top == Top::Coat ? 1.3f : 1.45f;
-    Station st[] = {{0, hip * 0.98f, lk.chest_d * 0.9f}, {1, hip * flare, lk.chest_d * 1.05f * flare}};
-    Body_Tube(m, P_PELVIS, R_PELVIS, {0, bf.hips + 0.45f, 0.0f}, {0, bf.hips + 0.45f - len, -0.05f}, st, 2, 10,
+    // The front stands well off the hips: a thigh raised in the fighting stance swings forward
+    // under the skirt and must not push through it.
+    Station st[] = {{0, hip * 0.98f, lk.chest_d * 1.15f}, {1, hip * flare, lk.chest_d * 1.25f * flare}};
+    Body_Tube(m, P_PELVIS, R_PELVIS, {0, bf.hips + 0.45f, 0.04f}, {0, bf.hips + 0.45f - len, 0.02f}, st, 2, 10,
               false, false);
   }
   if (lk.gloves == Gloves::Gloves && lk.bulk > 0.8f) {  // leather wristbands
@@ -150,10 +153,15 @@ void Body_Flex(Model& m, const Look& lk, const BodyFrame& bf) {
   float front = lk.chest_d * (lk.female ? 1.25f : 1.1f) + 0.1f;
   for (int s = 0; s < 2; ++s) {
     float x = s == 0 ? 0.16f : -0.2f;
-    Station st[] = {{0, 0.15f, 0.04f}, {1, 0.19f, 0.04f}};
-    Vec3 a{x, bf.neck_base - 0.05f, nr * 1.1f};
+    // From the knot they first come forward over the collarbone, then fall: a straight line
+    // from the knot would cut into the upper chest and show as spots on it.
+    Vec3 a{x, bf.neck_base - 0.05f, std::max(nr * 1.1f, lk.chest_d * 0.7f)};
+    Vec3 bend{x * 1.15f, bf.neck_base - 0.35f, lk.chest_d * 0.95f + 0.08f};
     Vec3 b{x * 1.4f, bf.neck_base - 1.55f - 0.25f * s, front + 0.1f};
-    Body_Tube(m, P_FLEX, R_FLEX, a, b, st, 2, 4, false, true);
+    Station top[] = {{0, 0.15f, 0.04f}, {1, 0.16f, 0.04f}};
+    Station fall[] = {{0, 0.16f, 0.04f}, {1, 0.19f, 0.04f}};
+    Body_Tube(m, P_FLEX, R_FLEX, a, bend, top, 2, 4, false, false);
+    Body_Tube(m, P_FLEX, R_FLEX, bend, b, fall, 2, 4, false, true);
   }
 }
 
@@ -204,7 +212,9 @@ void Body_Attachments(Model& m, int character, const Look& lk, const BodyFrame& 
         float w = count > 1 ? 0.3f : 0.5f;
         p[0] = {x, bf.waist - 0.1f, -lk.chest_d * 0.9f};
         for (int k = 1; k <= 2; ++k) p[k] = p[0] + Vec3{x * 0.12f * k, -0.92f * k, -0.08f * k};
-        Chain(m, i, lk.top != Top::Vest ? R_PELVIS : R_ACCS, p, 2, w, w * 1.15f, 0.04f, 0.04f, 4);
+        // A diamond section, creased down the middle: the fight is mostly seen from the side,
+        // where a flat panel would show only its edge and read as a stick.
+        Chain(m, i, lk.top != Top::Vest ? R_PELVIS : R_ACCS, p, 2, w, w * 1.15f, 0.12f, 0.2f, 4);
         break;
       }
       case Piece::Pad: {  // shoulder plates riding the chest

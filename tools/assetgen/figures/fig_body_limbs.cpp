@@ -97,7 +97,7 @@ void Body_Torso(Model& m, const Look& lk, const BodyFrame& bf) {
   lf.cap_last = true;
   Mesh_Loft(m, lf, r, 5);
 
-  float nr = lk.head_w * (lk.female ? 0.22f : 0.26f) * (1.0f + 0.25f * lk.bulk);
+  float nr = lk.head_w * (lk.female ? 0.25f : 0.29f) * (1.0f + 0.25f * lk.bulk);  // thin necks read as mannequins
   Station neck[] = {{0, nr * 1.15f, nr * 1.1f}, {1, nr, nr * 0.95f}};
   Vec3 top = bf.joint[P_HEAD] + Vec3{0, 0.32f, 0.04f};
   Body_Tube(m, P_CHEST, armour ? R_PELVIS : R_SKIN, Vec3{0, bf.neck_base - 0.12f, -0.05f}, top, neck, 2, 8,
@@ -156,8 +156,12 @@ void Body_Legs(Model& m, const Look& lk, const BodyFrame& bf) {
     // so a bent knee shows no gap between them.
     Station th[] = {{0.0f, lr * 1.05f * wide, lr * 1.05f * wide}, {0.55f, lr * 0.88f * wide, lr * 0.9f * wide},
                     {1.0f, lr * 0.36f * wide, lr * 0.38f * wide}};
-    Body_Tube(m, thigh, left ? R_THIGH_L : R_THIGH, hip + Vec3{0, 0.38f, 0}, knee + Vec3{0, -0.28f, 0}, th, 3, 8,
-              false, false, sq);
+    // Under a skirt the thigh's top stays low and slim: the skirt hangs rigid from the hips, and
+    // a raised thigh would push its top out through the cloth.
+    const bool skirt = lk.top == Top::Dress || lk.top == Top::Coat;
+    if (skirt) th[0].rx = th[0].rz = lr * 0.85f * wide;
+    Body_Tube(m, thigh, left ? R_THIGH_L : R_THIGH, hip + Vec3{0, skirt ? 0.12f : 0.38f, 0}, knee + Vec3{0, -0.28f, 0},
+              th, 3, 8, false, false, sq);
     float flare = lk.legs == Legwear::Hakama ? 1.5f : 1.0f;
     float boot = boots ? 1.25f : 1.0f;
     Station sh[] = {{0.0f, lr * 0.42f * wide, lr * 0.44f * wide},

@@ -145,11 +145,18 @@ void Paint_Torso(Image& img, const Ctx& cx, bool back_only) {
       if (lk.top == Top::Dress) {
         Img_Rect(img, 0, 0, static_cast<float>(W), H * 0.06f, trim);  // mandarin collar
         Img_Line(img, front, H * 0.06f, front - W * 0.12f, H * 0.3f, 3.0f, trim);
-        for (int k = 0; k < 14; ++k) {
-          float x = Noise(k * 13, 3, 1, cx.seed, 997) * W, y = Noise(k * 7, 11, 1, cx.seed + 1, 997) * H;
-          Img_Ellipse(img, x, y, 2.5f, 2.5f, Mix(main, Hex(p.accent), 0.7f));
-          Img_Ellipse(img, x, y, 1.0f, 1.0f, Hex(p.trim));
-        }
+        // Small flowers in staggered rows, a pale tint of the cloth: scattered dark dots read
+        // as stains at fight size.
+        const Rgb petal = Mix(main, Rgb{255, 250, 240}, 0.35f);
+        for (int row = 0; row < 4; ++row)
+          for (int k = 0; k < 6; ++k) {
+            const float x = (k + 0.5f * (row & 1) + 0.25f) * W / 6.0f, y = H * (0.22f + 0.2f * row);
+            for (int leaf = 0; leaf < 5; ++leaf) {
+              const float a = leaf * 2.0f * kPi / 5.0f;
+              Img_Ellipse(img, x + 2.2f * std::cos(a), y + 2.2f * std::sin(a), 1.7f, 1.7f, petal);
+            }
+            Img_Ellipse(img, x, y, 1.2f, 1.2f, Hex(p.trim));
+          }
       }
       break;
     }
@@ -384,7 +391,12 @@ void Paint_Accessory(Image& img, const Ctx& cx, bool scarf) {
   Rgb c = Hex(cx.pal->accent);
   Cloth(img, c, cx.seed + (scarf ? 91 : 97), 0.25f);
   if (scarf) {
-    for (int k = 0; k < 3; ++k) Band(img, img.height * (0.2f + 0.3f * k), img.height * (0.24f + 0.3f * k), Scale(c, 0.6f));
+    // Folds running down the cloth and a hem at each end: bands across it made the tails look
+    // like bundled sticks.
+    for (float fx : {0.3f, 0.7f})
+      Img_Rect(img, img.width * fx - 1, 0, img.width * fx + 1, static_cast<float>(img.height), Scale(c, 0.72f));
+    Band(img, 0, img.height * 0.05f, Scale(c, 0.6f));
+    Band(img, img.height * 0.95f, static_cast<float>(img.height), Scale(c, 0.6f));
   } else {
     Band(img, 0, 2, Hex(cx.pal->trim));
   }

@@ -41,7 +41,7 @@ FaceFrame Frame_Of(const Look& lk, const Image& img) {
   f.nose_y = y(0.41f);
   f.mouth_y = y(0.27f);
   f.chin_y = y(0.08f);
-  f.eye_dx = 17.5f * f.px;
+  f.eye_dx = 19.5f * f.px;  // a little round toward the sides, so the near eye shows in profile
   return f;
 }
 
@@ -60,7 +60,7 @@ void Paint_Modelling(Image& img, const FaceFrame& f, const Look& lk, Rgb skin) {
   const float k = f.px;
   for (int s = -1; s <= 1; s += 2) {
     float ex = f.mid + s * f.eye_dx;
-    Img_Ellipse(img, ex, f.eye_y - 1.0f * f.tall, 9 * k, 5.5f * k * f.tall, Scale(skin, 0.86f), 0.7f);
+    Img_Ellipse(img, ex, f.eye_y - 1.0f * f.tall, 11 * k, 6 * k * f.tall, Scale(skin, 0.8f), 0.75f);
     Img_Ellipse(img, f.mid + s * 20 * k, f.nose_y + 1.5f * k * f.tall, 7 * k, 2.5f * k * f.tall,
                 lk.female ? Mix(skin, Rgb{225, 120, 115}, 0.35f) : Scale(skin, 0.9f), 0.6f);
     Img_Ellipse(img, f.mid + s * 64 * k, (f.eye_y + f.nose_y) * 0.5f, 3.5f * k, 5 * k * f.tall * 0.5f,
@@ -78,36 +78,38 @@ void Paint_Modelling(Image& img, const FaceFrame& f, const Look& lk, Rgb skin) {
 }
 
 void Paint_Eye(Image& img, const FaceFrame& f, float x, float size, Rgb iris, Expression e, int side, bool female) {
-  const float k = f.px, w = 7.2f * size * k, h = 2.6f * size * k * f.tall;
+  const float k = f.px, w = 8.6f * size * k, h = 3.0f * size * k * f.tall;
   const float y = f.eye_y;
   const Rgb line{34, 22, 20};
   if (e == Expression::Hurt) {  // squeezed shut
-    Img_Line(img, x - w, y - 0.2f * h, x + w, y + 0.2f * h, 1.6f * k, line);
-    Img_Line(img, x - w * 0.7f, y + 0.6f * h, x + w * 0.6f, y + 0.5f * h, 1.0f * k, line, 0.6f);
+    Img_Line(img, x - w, y - 0.2f * h, x + w, y + 0.2f * h, 2.6f * k, line);
+    Img_Line(img, x - w * 0.7f, y + 0.6f * h, x + w * 0.6f, y + 0.5f * h, 1.6f * k, line, 0.8f);
     return;
   }
   const float open = e == Expression::Shout ? 1.3f : 1.0f;
   Img_Ellipse(img, x, y, w, h * open, Rgb{244, 240, 234});
-  const float ix = x + side * 0.6f * k, ir = 3.1f * size * k;
+  const float ix = x + side * 0.6f * k, ir = 3.9f * size * k;
   Img_Ellipse(img, ix, y + 0.1f * h, ir, std::min(ir * f.tall, h * open * 1.05f), Scale(iris, 0.7f));
   Img_Ellipse(img, ix, y + 0.1f * h, ir * 0.75f, std::min(ir * 0.75f * f.tall, h * open * 0.85f), iris);
   Img_Ellipse(img, ix, y + 0.1f * h, ir * 0.4f, ir * 0.4f * f.tall, Rgb{10, 8, 8});
   Img_Ellipse(img, ix - 1.0f * k, y - 0.3f * h, 0.8f * k, 0.8f * k * f.tall, Rgb{255, 255, 255});
   // Upper lid: a dark arch over the eye, heavier toward the outer corner; a faint lower lid.
   const float top = y - h * open;
-  Img_Line(img, x - w, y - 0.2f * h, x - w * 0.3f, top, 1.6f * k, line);
-  Img_Line(img, x - w * 0.3f, top, x + w * 0.4f, top + 0.1f * h, 1.8f * k, line);
-  Img_Line(img, x + w * 0.4f, top + 0.1f * h, x + w * 1.05f, y - 0.1f * h, 1.6f * k, line);
+  Img_Line(img, x - w, y - 0.2f * h, x - w * 0.3f, top, 2.4f * k, line);
+  Img_Line(img, x - w * 0.3f, top, x + w * 0.4f, top + 0.1f * h, 2.8f * k, line);
+  Img_Line(img, x + w * 0.4f, top + 0.1f * h, x + w * 1.05f, y - 0.1f * h, 2.4f * k, line);
   Img_Line(img, x - w * 0.8f, y + h * 0.9f, x + w * 0.8f, y + h * 0.9f, 0.8f * k, Scale(line, 2.5f), 0.4f);
-  if (female) {  // lashes flick out at the outer corner
-    const float ox = side > 0 ? x + w * 1.05f : x - w * 1.05f, dir = side > 0 ? 1.0f : -1.0f;
-    Img_Line(img, ox - dir * 1.5f * k, y - 0.5f * h, ox + dir * 1.8f * k, y - 1.1f * h, 1.2f * k, line);
-  }
+  // The outer corner lies away from the face's middle; a dark flick there is what shows of the
+  // eye when the head is seen from the side, as it mostly is in a fight.
+  const float dir = x < f.mid ? -1.0f : 1.0f, ox = x + dir * w * 1.05f;
+  Img_Line(img, ox - dir * 2.5f * k, y - 0.4f * h, ox + dir * 1.5f * k, y - 0.1f * h, 2.2f * k, line);
+  if (female)  // lashes flick up at the outer corner
+    Img_Line(img, ox - dir * 1.5f * k, y - 0.5f * h, ox + dir * 2.4f * k, y - 1.3f * h, 1.4f * k, line);
 }
 
 void Paint_Brow(Image& img, const FaceFrame& f, float x, Brow b, Rgb c, Expression e, int side) {
-  const float k = f.px, w = 11.0f * k;
-  float thick = (b == Brow::Thick ? 3.4f : (b == Brow::Thin ? 1.6f : 2.4f)) * k;
+  const float k = f.px, w = 13.0f * k;
+  float thick = (b == Brow::Thick ? 4.6f : (b == Brow::Thin ? 2.6f : 3.4f)) * k;
   float inner = 0, outer = 0;
   if (b == Brow::Angry) inner = 1.6f;
   if (b == Brow::Arched) outer = 1.0f;
@@ -127,7 +129,7 @@ void Paint_Mouth(Image& img, const FaceFrame& f, float width, Expression e, Rgb 
     Img_Ellipse(img, x, y - 0.8f * t, w * 0.8f, 1.1f * t, Scale(lip, 0.85f), 0.8f);  // upper lip
     Img_Ellipse(img, x, y + 1.4f * t, w * 0.65f, 1.4f * t, lip, 0.7f);                // lower lip
     Img_Ellipse(img, x, y + 1.0f * t, w * 0.3f, 0.5f * t, Mix(lip, Rgb{255, 230, 220}, 0.4f), 0.5f);
-    Img_Line(img, x - w, y, x + w, y, 1.2f * k, Scale(lip, 0.45f));
+    Img_Line(img, x - w, y, x + w, y, 2.0f * k, Scale(lip, 0.4f));
     Img_Ellipse(img, x, y + 4.0f * t, w * 0.5f, 0.9f * t, Scale(skin, 0.85f), 0.5f);  // under the lip
     return;
   }
@@ -243,7 +245,7 @@ void Fig_PaintFace(int character, Expression e, Image& img, int colouring) {
     const Rgb iris = Hex(lk.face.iris);
     Paint_Eye(img, f, f.mid - f.eye_dx, lk.face.eye_size, iris, e, 1, lk.female);
     Paint_Eye(img, f, f.mid + f.eye_dx, lk.face.eye_size, iris, e, -1, lk.female);
-    const Rgb brow = Scale(hair, 0.8f);
+    const Rgb brow = Mix(Scale(hair, 0.75f), Rgb{38, 28, 24}, 0.45f);  // a touch darker than the hair, to read from afar
     Paint_Brow(img, f, f.mid - f.eye_dx, lk.face.brow, brow, e, -1);
     Paint_Brow(img, f, f.mid + f.eye_dx, lk.face.brow, brow, e, 1);
     Paint_Mouth(img, f, lk.face.mouth, e, skin, lk.female);

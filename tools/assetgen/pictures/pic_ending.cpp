@@ -1,7 +1,9 @@
 // The ending: twenty-four panels that tell, in pictures and short captions, how the fortress
 // fell and where the champion went next. Panels are authored at twice their layout size.
+#include <algorithm>
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 #include "pictures/pic_figure.h"
 #include "pictures/pic_groups.h"
@@ -23,8 +25,8 @@ void Border(Canvas& c) {
   for (int y = 0; y < c.h; ++y) c.at(0, y) = c.at(c.w - 1, y) = Hex(0xD8B060);
 }
 
-// Every caption is set in one size; a line too long for its panel breaks at the space nearest
-// its middle instead of being set smaller.
+// Every caption is set in one size; a line too long for its panel breaks into two or three
+// lines, at the spaces that keep the widest line narrowest, instead of being set smaller.
 constexpr int kCaptionCap = 20;
 constexpr int kCaptionLineGap = 30;
 
@@ -36,6 +38,18 @@ TextStyle Caption_Style() {
   return s;
 }
 
+// The width of the widest line when the text breaks at the given spaces.
+int Widest_Line(const std::string& text, const TextStyle& s, const std::vector<std::size_t>& breaks) {
+  int widest = 0;
+  std::size_t from = 0;
+  for (std::size_t k = 0; k <= breaks.size(); ++k) {
+    const std::size_t to = k < breaks.size() ? breaks[k] : text.size();
+    widest = std::max(widest, Text_Styled(text.substr(from, to - from), s).ink_w);
+    from = to + 1;
+  }
+  return widest;
+}
+
 Canvas Caption(const std::string& text, int w, int h) {
   Canvas c = Make_Canvas(w, h);
   for (int y = 0; y < h; ++y)
@@ -44,17 +58,33 @@ Canvas Caption(const std::string& text, int w, int h) {
       c.at(x, y) = Hex(0x000000, 0.7f * edge);
     }
   const TextStyle s = Caption_Style();
-  if (Text_Styled(text, s).ink_w <= w - 40) {
-    Text_Place(c, text, s, w / 2, h / 2, Align::Centre);
-    return c;
-  }
-  std::size_t cut = std::string::npos;
+  std::vector<std::size_t> spaces;
   for (std::size_t i = 0; i < text.size(); ++i)
-    if (text[i] == ' ' && (cut == std::string::npos || std::abs(static_cast<long>(i) - static_cast<long>(text.size() / 2)) <
-                                                           std::abs(static_cast<long>(cut) - static_cast<long>(text.size() / 2))))
-      cut = i;
-  Text_Place(c, text.substr(0, cut), s, w / 2, h / 2 - kCaptionLineGap / 2, Align::Centre);
-  Text_Place(c, text.substr(cut + 1), s, w / 2, h / 2 + kCaptionLineGap / 2, Align::Centre);
+    if (text[i] == ' ') spaces.push_back(i);
+  // The fewest lines that fit, broken where the widest of them is narrowest.
+  std::vector<std::size_t> breaks, best;
+  int narrowest = Widest_Line(text, s, breaks);
+  if (narrowest > w - 40) {
+    for (std::size_t a = 0; a < spaces.size(); ++a) {
+      int wide = Widest_Line(text, s, {spaces[a]});
+      if (wide < narrowest) narrowest = wide, best = {spaces[a]};
+    }
+    if (narrowest > w - 40)
+      for (std::size_t a = 0; a < spaces.size(); ++a)
+        for (std::size_t b = a + 1; b < spaces.size(); ++b) {
+          int wide = Widest_Line(text, s, {spaces[a], spaces[b]});
+          if (wide < narrowest) narrowest = wide, best = {spaces[a], spaces[b]};
+        }
+    breaks = best;
+  }
+  std::size_t from = 0;
+  const int count = static_cast<int>(breaks.size()) + 1;
+  for (int k = 0; k < count; ++k) {
+    const std::size_t to = k < count - 1 ? breaks[k] : text.size();
+    const int y = h / 2 + (2 * k - (count - 1)) * kCaptionLineGap / 2;
+    Text_Place(c, text.substr(from, to - from), s, w / 2, y, Align::Centre);
+    from = to + 1;
+  }
   return c;
 }
 

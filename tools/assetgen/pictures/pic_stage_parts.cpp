@@ -171,20 +171,28 @@ void Mesas(Canvas& c, const StageLook& L, int base) {
 // The volcano stands far behind the fortress: its flank is hazed, lighter than the fortress's
 // walls and towers, so their silhouettes and lit windows stand clear in front of it.
 void Volcano(Canvas& c, const StageLook& L, int base) {
-  const Rgba flank = Mix(L.structure, L.haze, 0.45f);
-  Shade_Wrapped(c, c.w * 0.5f, 520, base - 300, base, [&](float x, float y) {
-    float top = base - 290 + std::fabs(x) * 0.55f;
-    return (std::fabs(x) < 40 ? base - 260.0f : top) - y;
+  // The cone sits low enough that its glowing crater shows above the fortress in the fight's
+  // view, and darker than the sky behind it, so the lava reads as running down a mountain.
+  const Rgba flank = Mix(L.structure, L.haze, 0.2f);
+  const float peak = base - 190.0f, slope = 0.45f, crater = 36;
+  const float at = c.w * 0.5f - 150;  // between two towers, so the crater shows
+  Shade_Wrapped(c, at, 520, static_cast<int>(peak) - 10, base, [&](float x, float y) {
+    float top = peak + std::fabs(x) * slope;
+    return (std::fabs(x) < crater ? peak + 18.0f : top) - y;
   }, [&](float x, float y) {
-    // A lava stream runs down the flank beside the central tower, from the crater's lip.
-    float lip = base - 290 + 60 * 0.55f;
-    float drop = y - lip;
-    float lava = std::fabs(x - 60 - 0.35f * drop + 3 * std::sin(y * 0.05f)) < 2.5f + 0.02f * drop && drop > 2 ? 1.0f : 0.0f;
-    float depth = Clamp01((y - (base - 290.0f)) / 290.0f);
-    return Mix(Mix(flank, Scale(flank, 0.7f), depth), L.lights, lava);
+    // A lava stream runs down the flank toward the central tower, from the crater's lip,
+    // widening as it goes, with a soft glow round it.
+    const float lip = peak + crater * slope;
+    const float drop = y - lip;
+    const float off = std::fabs(x - crater - 0.35f * drop + 3 * std::sin(y * 0.05f));
+    const float core = 1.5f + 0.03f * drop;
+    const float lava = drop > 0 ? Clamp01(1.0f - (off - core) / 5.0f) * (off < core ? 1.0f : 0.45f) : 0.0f;
+    const float rim = Clamp01(1.0f - std::fabs(y - peak - 18.0f) / 6.0f) * (std::fabs(x) < crater ? 1.0f : 0.0f);
+    const float depth = Clamp01((y - peak) / 190.0f);
+    return Mix(Mix(flank, Scale(flank, 0.7f), depth), L.lights, std::max(lava, rim));
   });
   for (int k = 0; k < 16; ++k)
-    Fill_Circle(c, c.w * 0.5f + 30 * std::sin(k * 1.7f) + k * 6, base - 280.0f - k * 14, 18.0f + k * 3,
+    Fill_Circle(c, at + 30 * std::sin(k * 1.7f) + k * 6, peak + 10.0f - k * 14, 18.0f + k * 3,
                 With_Alpha(Mix(Hex(0x301010), L.haze, k / 16.0f), 0.35f));
   Castle(c, L, base);
 }
@@ -296,8 +304,10 @@ Canvas Paint_Floor(const StageLook& L) {
         case Floor::Planks: {
           int plank = x / 32, off = (plank * 173) % N;
           float along = static_cast<float>((y + off) % N);
-          float ring = 0.5f + 0.5f * std::sin((x % 32) * 0.35f + Fbm(x / 64.0f, along / 8.0f, L.seed + plank, 3, 8) * 8);
-          col = Scale(Mix(L.floor_a, L.floor_b, ring * 0.6f), Cell_Shade(plank, 0, L.seed));
+          // Grain runs along the plank and only wavers: swirled much more it reads as marble
+          // or rippling water under the close camera.
+          float ring = 0.5f + 0.5f * std::sin((x % 32) * 0.6f + Fbm(x / 64.0f, along / 8.0f, L.seed + plank, 3, 8) * 2.5f);
+          col = Scale(Mix(L.floor_a, L.floor_b, ring * 0.4f), Cell_Shade(plank, 0, L.seed));
           if (x % 32 == 0 || static_cast<int>(along) % 256 == 0) col = Scale(col, 0.45f);
           break;
         }
