@@ -14,15 +14,16 @@ constexpr int kGrabFrames = 10, kLiftFrames = 18, kHurlFrames = 12;
 constexpr Pose kGrab = With(kStance, {{4, 6, 10, 0},     {3, 16, 0, 0},    {2, -10, -10, 0},
                                       {11, -80, -20, 0}, {12, -40, 0, 0},  {13, -30, 0, 0},
                                       {5, -80, 20, 0},   {6, -40, 0, 0},   {7, -30, 0, 0}});
-constexpr Pose kLift = With(kGrab, {{4, -10, 10, 0},   {3, -16, 0, 0},  {2, -20, -10, 0},
+constexpr Pose kLift = With(kGrab, {{4, -4, 10, 0},    {3, -4, 0, 0},   {2, -8, -10, 0},
                                     {11, -150, -10, 0}, {12, -40, 0, 0}, {5, -150, 10, 0}, {6, -40, 0, 0},
                                     {14, -40, -8, -4},  {15, 60, 0, 0},  {8, -10, -6, 6},  {9, 60, 0, 0}});
 constexpr Pose kHurl = With(kGrab, {{4, 20, 10, 0},   {3, 40, 0, 0},   {2, -30, -10, 0},
                                     {11, -70, 0, -10}, {12, -10, 0, 0}, {5, -70, 0, 10}, {6, -10, 0, 0},
                                     {14, -50, -8, -4}, {15, 50, 0, 0},  {8, 20, -6, 6},  {9, 30, 0, 0}});
 // The heave at the top of the throw: arms driven up and the body stretched onto its toes while the
-// victim rises off the hands, before the slam brings both down together.
-constexpr Pose kHeave = With(kLift, {{4, -14, 10, 0},   {3, -24, 0, 0},  {2, -26, -10, 0},
+// victim rises off the hands, before the slam brings both down together. The legs and arms do
+// the lifting: the back stays near upright, the head only tipped to watch the victim go over.
+constexpr Pose kHeave = With(kLift, {{4, -6, 10, 0},    {3, -8, 0, 0},   {2, -12, -10, 0},
                                      {11, -172, -10, 0}, {12, -14, 0, 0}, {5, -172, 10, 0}, {6, -14, 0, 0},
                                      {15, 30, 0, 0},     {9, 30, 0, 0}});
 // From the low stance: a hip throw, turning the victim over the hip.
