@@ -173,3 +173,83 @@ TEST(AssetgenMotionFaults, SpinesDoNotArchTooFarBack) {
 }
 
 }  // namespace
+
+// ---- throw and hold pairs -----------------------------------------------------------------
+// Both sides of a throw or hold baked on one skeleton and stood where the fight stands them:
+// roots 4.0 apart on the line, face to face (model z forward, x to the side).
+struct PairView {
+  const Baked* side[2];
+  Vec3 World(int s, std::size_t f, int part) const {
+    const Baked& b = *side[s];
+    const Vec3 p = At(b, std::min(f, b.frames.size() - 1), part);
+    return s == 0 ? Vec3{p.z - 2.0f, p.y, p.x} : Vec3{2.0f - p.z, p.y, -p.x};
+  }
+};
+
+const Baked* Find(int action, const std::string& prefix) {
+  for (const Baked& b : All_Motions())
+    if (b.motion->action == action && b.name.rfind(prefix, 0) == 0) return &b;
+  return nullptr;
+}
+
+// Every throw and hold with its reaction: the two shared throws with the reactions the fight
+// pairs them with, and every character's holds with their held reactions.
+std::vector<std::pair<PairView, std::string>> All_Pairs() {
+  std::vector<std::pair<PairView, std::string>> out;
+  for (int t : {80, 81})
+    for (int r = 82; r <= 101; ++r)
+      if (r % 2 == t % 2)  // reactions after throw 80 are even, after 81 odd
+        if (const Baked* a = Find(t, "shared "), *v = Find(r, "shared "); a && v)
+          out.push_back({PairView{{a, v}}, "throw " + std::to_string(t) + " with " + std::to_string(r)});
+  for (int c = 0; c < fig::kCharacters; ++c)
+    for (int i = 0; i < mv::Mv_HoldPairCount(); ++i) {
+      const std::string who = "character " + std::to_string(c) + " ";
+      const Baked* a = Find(mv::Mv_HoldPair(i).hold, who);
+      const Baked* v = Find(mv::Mv_HoldPair(i).held, who);
+      if (a && v) out.push_back({PairView{{a, v}}, who + "hold " + std::to_string(mv::Mv_HoldPair(i).hold)});
+    }
+  return out;
+}
+
+// The flesh round a trunk joint that another body may not sink into: the head, the chest, the
+// hips (bodies pressed together in a clinch touch; one passing through the other sinks deep).
+float Flesh(int part) { return part == 2 ? 0.3f : 0.4f; }
+
+// The frame on which a defender is first lifted clear in the attacker's hands: the end of its
+// first phase that raises it without sending it away (a fling lets go).
+std::size_t Lift_Top(const Baked& victim) {
+  std::size_t end = 0;
+  for (int p = 0; p < victim.motion->phase_count; ++p) {
+    end += std::max(1, victim.motion->phases[p].frames);
+    const Vec3 t = victim.motion->phases[p].travel;
+    if (t.y > 0 && t.z >= 0) return end - 1;
+  }
+  return victim.frames.size();
+}
+
+// The two trunks never pass through each other (head, chest and hips of one against those of
+// the other), and at the top of the lift a hand of the attacker is on the defender. A victim
+// carried through the thrower's chest, or floating clear of its hands, fails here.
+TEST(AssetgenMotionFaults, ThrowPairsHoldOnWithoutPassingThrough) {
+  constexpr float kGrip = 1.6f;    // a hand to the nearest joint of the held body
+  std::vector<Offence> through, loose;
+  for (const auto& [pair, name] : All_Pairs()) {
+    const std::size_t n = std::max(pair.side[0]->frames.size(), pair.side[1]->frames.size());
+    for (std::size_t f = 0; f < n; ++f) {
+      float inside = 0;  // how deep the deepest pair of pieces sinks into each other
+      for (int a : {2, 3, 4})
+        for (int v : {2, 3, 4})
+          inside = std::max(inside, Flesh(a) + Flesh(v) - Length(pair.World(0, f, a) - pair.World(1, f, v)));
+      if (inside > 0) through.push_back({inside, name + " frame " + std::to_string(f)});
+    }
+    const std::size_t top = Lift_Top(*pair.side[1]);
+    if (top >= n) continue;
+    float grip = 1e9f;
+    for (int hand : {7, 13})
+      for (int part : {2, 3, 4, 5, 6, 8, 9, 11, 12, 14, 15})
+        grip = std::min(grip, Length(pair.World(0, top, hand) - pair.World(1, top, part)));
+    if (grip > kGrip) loose.push_back({grip, name + " frame " + std::to_string(top)});
+  }
+  EXPECT_TRUE(through.empty()) << through.size() << " frames with the trunks inside each other:" << Worst(through);
+  EXPECT_TRUE(loose.empty()) << loose.size() << " lifts with no hand on the defender:" << Worst(loose);
+}
