@@ -241,7 +241,7 @@ Move Build_Move(int character, int action, const Style& st, const Row& row) {
     if (b.limb != Limb::None) ph.frames = std::max(2, ph.frames);
     ph.ease = b.ease;
     // A long lunge steps its way in: not snapped (most of the way on the first frame) but eased.
-    if (b.forward >= 1.0f && ph.ease == mot::Ease::Snap) ph.ease = mot::Ease::Out;
+    if (b.forward >= 1.0f && b.up == 0 && ph.ease == mot::Ease::Snap) ph.ease = mot::Ease::Out;
     if (b.forward >= 1.5f) ph.frames = std::max(4, ph.frames);
     ph.strike_part = Part_Of(b.limb, mirror, st);
     ph.hit = b.hit == 1 ? row.main : (b.hit == 2 ? row.finish : 0);
