@@ -150,7 +150,7 @@ constexpr HoldBeat kOver[] = {
 constexpr HoldBeat kSpin[] = {
     H(0, 0, 6, Ease::Out, kCueShout, -1, false, false, 0.8f),
     H(1, 1, 10, Ease::InOut, -1, 40, false, true),
-    H(2, 2, 8, Ease::Snap, kCueHeavy, -1, false, false, -3.0f, 1.5f),
+    H(2, 2, 8, Ease::Snap, kCueHeavy, -1, false, false, -4.5f, 1.5f),  // flung clear of the feet
     H(2, 3, 6, Ease::In, -1, kCueFall, true, false, 0, -1.5f),
     H(3, 3, 12, Ease::InOut),
     H(3, 3, 22, Ease::Linear),
