@@ -140,7 +140,7 @@ constexpr Toss kTosses[] = {
     {-3.0f, 1.8f, Land::Back},    // 86
     {-2.0f, 1.0f, Land::Back},    // 87
     {-0.5f, 0.4f, Land::Face},    // 88
-    {7.0f, 5.0f, Land::Turned},   // 89
+    {10.0f, 5.0f, Land::Turned},  // 89
     {-1.5f, 1.2f, Land::Back},    // 90
     {-2.5f, 1.0f, Land::Back},    // 91
     {-1.8f, 1.2f, Land::Back},    // 92
@@ -149,7 +149,7 @@ constexpr Toss kTosses[] = {
     {-2.8f, 0.8f, Land::Back},    // 95
     {0.0f, 0.2f, Land::Back},     // 96
     {-1.2f, 0.4f, Land::Back},    // 97
-    {7.5f, 5.4f, Land::Turned},   // 98
+    {9.5f, 5.4f, Land::Turned},   // 98
     {-2.2f, 2.5f, Land::Back},    // 99
     {-3.0f, 1.5f, Land::Back},    // 100
     {-2.0f, 1.0f, Land::Back},    // 101
