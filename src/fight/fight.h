@@ -33,6 +33,8 @@ void start_action(int fighter, int action, int from_start);
 int is_neutral(int fighter);         // may start a normal action from standing
 int is_crouch_neutral(int fighter);  // the same from crouching
 void fighter_input(int fighter);
+// The reaction a throw (80 or 81) by a fighter of `character` puts its victim in.
+int thrown_reaction(int character, int throw_action);
 void fighter_animate(int fighter);
 
 // ---- movement, facing and spacing (fight_move.cpp) -------------------------------------

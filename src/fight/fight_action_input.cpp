@@ -347,12 +347,11 @@ bool throw_check(int fighter) {
     start_action(fighter, ACT_ESCAPED, 1);
     return true;
   }
-  const ThrownPair& pair = kThrown[character_of(fighter)];
   start_action(fighter, throw_action, 1);
   other.yaw = other.face_yaw;
   other.busy = 1;
   other.reacting = 1;
-  start_action(o, throw_action == ACT_THROW ? pair.after_80 : pair.after_81, 1);
+  start_action(o, thrown_reaction(character_of(fighter), throw_action), 1);
   return true;
 }
 
@@ -566,6 +565,11 @@ bool run_checks(int fighter) {
 }
 
 }  // namespace
+
+int thrown_reaction(int character, int throw_action) {
+  const ThrownPair& pair = kThrown[character & 15];
+  return throw_action == ACT_THROW ? pair.after_80 : pair.after_81;
+}
 
 void fighter_input(int fighter) {
   if (Match.frozen) return;

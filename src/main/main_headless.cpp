@@ -31,7 +31,10 @@ struct HeadlessArgs {
   const char* pose = nullptr;  // review tools
   const char* out = nullptr;
   const char* sheet = nullptr;
+  const char* pair = nullptr;   // THROWER:VICTIM:ACTION, with --out
+  const char* pairs = nullptr;  // OUTDIR
   int pose_row = 0, pose_action = 0, pose_frame = 0;
+  int pair_thrower = 0, pair_victim = 0, pair_action = 0;
   long tournament = 0;  // rounds per pairing; 0: no tournament
   long level = 70;      // the tournament's computer level
   bool usage = false;
@@ -51,6 +54,11 @@ bool take_pose(const char* v) {
   return Review_ParsePose(v, &Args.pose_row, &Args.pose_action, &Args.pose_frame);
 }
 
+bool take_pair(const char* v) {
+  Args.pair = v;
+  return Review_ParsePair(v, &Args.pair_thrower, &Args.pair_victim, &Args.pair_action);
+}
+
 // clang-format off
 const OptionRow kOptions[] = {
     {.name = "--data", .value = "DIR", .help = "the data set to run on (required)", .text = &Args.data},                      // data
@@ -64,8 +72,11 @@ const OptionRow kOptions[] = {
      .check = Shell_ParseStart},                                                                                             // start
     {.name = "--pose", .value = "CHAR:ACTION:FRAME", .help = "draw one fighter in one frame of an action (with --out)",
      .check = take_pose},                                                                                                    // pose
-    {.name = "--out", .value = "FILE.png", .help = "where --pose writes its picture", .text = &Args.out},                     // out
+    {.name = "--out", .value = "FILE.png", .help = "where --pose or --pair writes its picture", .text = &Args.out},           // out
     {.name = "--sheet", .value = "OUTDIR", .help = "a contact sheet per character, OUTDIR/sheet-CC.png", .text = &Args.sheet}, // sheet
+    {.name = "--pair", .value = "THROWER:VICTIM:ACTION", .help = "a throw (80, 81) or hold (340..409) with its victim, a strip of frames (with --out)",
+     .check = take_pair},                                                                                                    // pair
+    {.name = "--pairs", .value = "OUTDIR", .help = "every throw and hold of every character, OUTDIR/pair-CC-AAA-RRR.png", .text = &Args.pairs}, // pairs
     {.name = "--trace", .value = "FILE", .help = "one line a frame of both fighters' state", .check = Review_TraceOpen},         // trace
     {.name = "--tournament", .value = "N", .help = "every character against every other, N rounds each way, computer against computer",
      .number = &Args.tournament, .low = 1, .high = 1000},                                                                    // tournament
@@ -80,6 +91,8 @@ constexpr const char* kSynopsis =
     " [--shots OUTDIR --shot-every K] [--start fight:S0:S1 | --start demo]\n"
     "       valdrune-headless --data DIR --pose CHAR:ACTION:FRAME --out FILE.png\n"
     "       valdrune-headless --data DIR --sheet OUTDIR\n"
+    "       valdrune-headless --data DIR --pair THROWER:VICTIM:ACTION --out FILE.png\n"
+    "       valdrune-headless --data DIR --pairs OUTDIR\n"
     "       valdrune-headless --data DIR --tournament N [--level L] [--usage]\n"
     "Runs the game off-screen on a virtual clock and prints a last line\n"
     "\"frames=N presented=P mode=M exit=S\".";
@@ -90,10 +103,13 @@ bool options_agree() {
   if (Args.data == nullptr) problem = "--data DIR is required";
   else if ((Args.shots != nullptr) != (Args.every > 0))
     problem = "--shots and --shot-every go together";
-  else if (Args.pose != nullptr && Args.out == nullptr) problem = "--pose needs --out";
-  else if (Args.out != nullptr && Args.pose == nullptr) problem = "--out is for --pose";
-  else if (Args.pose != nullptr && Args.sheet != nullptr)
-    problem = "--pose and --sheet are separate runs";
+  else if (Args.pose != nullptr && Args.pair != nullptr) problem = "--pose and --pair are separate runs";
+  else if ((Args.pose != nullptr || Args.pair != nullptr) && Args.out == nullptr)
+    problem = Args.pose ? "--pose needs --out" : "--pair needs --out";
+  else if (Args.out != nullptr && Args.pose == nullptr && Args.pair == nullptr)
+    problem = "--out is for --pose or --pair";
+  else if ((Args.pose != nullptr || Args.pair != nullptr) + (Args.sheet != nullptr) + (Args.pairs != nullptr) > 1)
+    problem = "--pose, --pair, --sheet and --pairs are separate runs";
   else if ((Args.level_given || Args.usage) && Args.tournament == 0)
     problem = "--level and --usage are for --tournament";
   if (problem != nullptr) Options_Refuse(kProgram, problem);
@@ -131,8 +147,8 @@ int main(int argc, char** argv) {
     return OPTIONS_STATUS_REFUSED;
   }
   char review_path[1100];
-  if (Args.out || Args.sheet)
-    absolute(Args.out ? Args.out : Args.sheet, review_path, sizeof review_path);
+  if (Args.out || Args.sheet || Args.pairs)
+    absolute(Args.out ? Args.out : (Args.sheet ? Args.sheet : Args.pairs), review_path, sizeof review_path);
 
   if (Args.script) {
     char err[700];
@@ -148,6 +164,8 @@ int main(int argc, char** argv) {
   }
   if (Args.pose) return Review_Pose(Args.pose_row, Args.pose_action, Args.pose_frame, review_path);
   if (Args.sheet) return Review_Sheets(review_path);
+  if (Args.pair) return Review_Pair(Args.pair_thrower, Args.pair_victim, Args.pair_action, review_path);
+  if (Args.pairs) return Review_Pairs(review_path);
   if (Args.tournament > 0) {
     TournamentOptions t;
     t.rounds = static_cast<int>(Args.tournament);

@@ -30,20 +30,6 @@ bool has_frames(const Fighter& f, int action) {
   return first >= 1 && first <= last && last < MAX_FRAMES;
 }
 
-// The posture flags the fight would have set for the action: crouching for the crouching
-// idle, walk, guard and attacks.
-void set_posture(Fighter& f, int action) {
-  f.action = action;
-  f.crouching = (action >= 32 && action <= 35) || (action >= 37 && action <= 40);
-  f.busy = f.reacting = f.rise_flag = 0;
-  f.height = 0.0f;
-  f.pos_x = f.pos_z = 0.0f;
-  f.pos_y = 3.2f;
-  f.yaw = f.face_yaw = 90;
-  f.track_x0 = f.track_z0 = 0.0f;
-  f.extra_angle[0] = f.extra_angle[1] = f.extra_angle[2] = 0;
-}
-
 void place_at(int frame) {
   fighters[kPlayer].frame = frame;
   Pose_Fighter(kPlayer);
@@ -52,6 +38,23 @@ void place_at(int frame) {
 }
 
 }  // namespace
+
+// The posture flags the fight would have set for the action: crouching for the crouching
+// idle, walk, guard and attacks.
+void Review_Posture(int player, int action, float x, int yaw) {
+  Fighter& f = fighters[player];
+  f.action = action;
+  f.crouching = (action >= 32 && action <= 35) || (action >= 37 && action <= 40);
+  f.busy = f.reacting = f.rise_flag = 0;
+  f.height = 0.0f;
+  f.pos_x = x;
+  f.pos_z = 0.0f;
+  f.pos_y = 3.2f;
+  f.yaw = f.face_yaw = yaw;
+  f.track_x0 = x;
+  f.track_z0 = 0.0f;
+  f.extra_angle[0] = f.extra_angle[1] = f.extra_angle[2] = 0;
+}
 
 bool Review_Begin() {
   if (!Plat_OpenWindow("Valdrune review")) {
@@ -95,7 +98,7 @@ bool Review_Draw(int action, int frame) {
   const int first = f.act_first[action], last = f.act_last[action];
   int shown = first + (frame < 0 ? 0 : frame);
   if (shown > last) shown = last;
-  set_posture(f, action);
+  Review_Posture(kPlayer, action, 0.0f, 90);
   FightCamera = FightCameraState{};
   Shake.Shake_Index = 0;
   Reset_Attachments(kPlayer);

@@ -90,6 +90,12 @@ void copy_cell(int n, const std::uint8_t* rgba) {
       }
 }
 
+}  // namespace
+
+void Review_CellsClear() { std::memset(Sheet.rgb, kEmpty, sizeof Sheet.rgb); }
+
+namespace {
+
 void put_digit(int x0, int y0, int d) {
   for (int line = 0; line < 5; ++line)
     for (int bit = 0; bit < 3; ++bit) {
@@ -106,6 +112,7 @@ void put_digit(int x0, int y0, int d) {
 void label_cell(int n, const Cell& cell) {
   char text[24];
   std::snprintf(text, sizeof text, "%d %d", cell.action, cell.frame);
+  if (n < 0 || n >= kMaxCells) return;
   int x = (n % kColumns) * kCellW + 6;
   const int y = (n / kColumns) * kCellH + 6;
   for (const char* c = text; *c; ++c, x += 4 * kLabelScale)
@@ -132,15 +139,30 @@ bool write_png(const char* path, int rows) {
   return ok;
 }
 
+}  // namespace
+
+void Review_CellPut(int n, int action, int frame) {
+  if (n < 0 || n >= kMaxCells) return;
+  copy_cell(n, Headless_Pixels());
+  label_cell(n, Cell{action, frame});
+}
+
+bool Review_CellsWrite(const char* path, int cells) {
+  if (cells < 1) cells = 1;
+  if (cells > kMaxCells) cells = kMaxCells;
+  return write_png(path, (cells + kColumns - 1) / kColumns);
+}
+
+namespace {
+
 bool sheet_of(int character, const char* out_dir) {
   if (!Review_LoadRow(character)) return false;
   choose_cells();
-  std::memset(Sheet.rgb, kEmpty, sizeof Sheet.rgb);
+  Review_CellsClear();
   int drawn = 0;
   for (int n = 0; n < Sheet.count; ++n) {
     if (!Review_Draw(Sheet.cells[n].action, Sheet.cells[n].frame)) continue;
-    copy_cell(drawn, Headless_Pixels());
-    label_cell(drawn, Sheet.cells[n]);
+    Review_CellPut(drawn, Sheet.cells[n].action, Sheet.cells[n].frame);
     ++drawn;
   }
   if (drawn == 0) {
@@ -149,7 +171,7 @@ bool sheet_of(int character, const char* out_dir) {
   }
   char path[1024];
   std::snprintf(path, sizeof path, "%s/sheet-%02d.png", out_dir, character);
-  if (!write_png(path, (drawn + kColumns - 1) / kColumns)) {
+  if (!Review_CellsWrite(path, drawn)) {
     std::fprintf(stderr, "valdrune-headless: cannot write %s\n", path);
     return false;
   }

@@ -73,6 +73,20 @@ void Bake_Pose(const Motion& mo, const Joints& j, const Pose& pose, BakedFrame& 
   Mot_Pack(m, f.key);
 }
 
+// The fight keeps a fighter on its line and takes back whatever a motion carried the body
+// sideways the moment the next action starts. So the hips come back onto the line they started
+// on over the last phase (the settle into the closing pose), instead of jumping there after it.
+void Return_To_Line(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out) {
+  if (out.empty() || mo.phase_count == 0) return;
+  PartMatrix m[22];
+  Mot_Solve(j, *mo.start, m);
+  const float start_x = Mot_PosedJoint(j, m, 4).x;
+  Mot_Unpack(out.back().key, m);
+  const float drift = Mot_PosedJoint(j, m, 4).x + out.back().offset.x - start_x;
+  const int n = std::min(static_cast<int>(out.size()), std::max(1, mo.phases[mo.phase_count - 1].frames));
+  for (int s = 1; s <= n; ++s) out[out.size() - n + s - 1].offset.x -= drift * Mot_Ease(Ease::InOut, s, n);
+}
+
 }  // namespace
 
 int Mot_Length(const Motion& mo) {
@@ -137,6 +151,7 @@ void Mot_Bake(const Motion& mo, const Joints& j, std::vector<BakedFrame>& out, c
     from = ph.pose;
     from_ground = ph.ground;
   }
+  Return_To_Line(mo, j, out);
 }
 
 }  // namespace mot

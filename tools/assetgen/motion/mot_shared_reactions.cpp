@@ -66,10 +66,12 @@ constexpr Pose kSweptSpin = Plus(kSweptAir, {{4, 0, 100, 0}, {14, -20, 0, 0}});
 constexpr Pose kFallBackTurn = Plus(kFallBack, {{4, 0, -50, 0}, {3, 10, 0, 0}, {2, 10, 30, 0}});
 constexpr Pose kAirBackTwist = Plus(kAirBackHigh, {{4, 0, 50, 0}, {3, 0, 10, 0}});
 // The beaten fighter is drawn with its right foot pinned to the floor, so that foot stays down
-// while the body twists round it and falls back (it gives ground slowly as the body goes, so the
-// fighter does not come to lie under the winner); lying, the leg rolls outward and the foot rests
+// while the body twists round it and falls back: the fall itself carries the body a leg's length
+// away from the winner, the foot never skates; lying, the leg rolls outward and the foot rests
 // on its side at the height it stood at.
-constexpr Pose kKoTwist = Plus(kHurtSide, {{4, 0, 60, 0}, {2, 20, 30, 0}, {15, 50, 0, 0}, {14, -20, 0, 0}});
+// The free leg comes off the floor before the body twists round the pinned one.
+constexpr Pose kKoLegUp = Plus(kHurtSide, {{15, 60, 0, 0}, {14, -30, 0, 0}});
+constexpr Pose kKoTwist = Plus(kHurtSide, {{4, 0, 60, 0}, {2, 20, 30, 0}, {15, 70, 0, 0}, {14, -40, 0, 0}});
 constexpr Pose kKoFall = Make({{4, -45, 150, 0},   {3, -20, 0, 0},  {2, -25, 0, 0},
                                {11, -150, 0, -40}, {12, -30, 0, 0}, {5, -100, 0, 40}, {6, -30, 0, 0},
                                {8, 40, 0, 6},      {9, 20, 0, 0},   {10, -10, 0, 0},
@@ -87,12 +89,14 @@ constexpr Motion CrouchRecoil(const char* name, int action, const Pose* hurt, in
   return M(name, action, &kCrouch, {P(hurt, 3, Ease::Snap), P(hurt, hold, Ease::Linear), P(&kCrouch, back)});
 }
 // Knocked off the feet through `air`, landing in `lying` `away` units back. With a `pivot` foot
-// (10 or 16) that foot comes down first and stays where it lands while the body settles round it.
+// (10 or 16) that foot comes down first and stays where it lands while the body settles round it:
+// the ground it gives is all given in the air, so the foot never skates once it is down.
 constexpr Motion Knockdown(const char* name, int action, const Pose* hit, const Pose* air, const Pose* lying,
                            float away, float height, int pivot = 0) {
   return M(name, action, &kStance,
-           {P(hit, 4, Ease::Snap, Z(-away * 0.15f)), Arc(P(air, 14, Ease::In, Z(-away * 0.6f)), height),
-            Impact(Cue(Plant(P(lying, 8, Ease::In, Z(-away * 0.25f)), pivot), kCueFall)), P(lying, 18, Ease::Linear)});
+           {P(hit, 4, Ease::Snap, Z(-away * 0.15f)), Arc(P(air, 14, Ease::In, Z(-away * (pivot ? 0.85f : 0.6f))), height),
+            Impact(Cue(Plant(P(lying, 8, Ease::In, Z(pivot ? 0.0f : -away * 0.25f)), pivot), kCueFall)),
+            P(lying, 18, Ease::Linear)});
 }
 // Launched: the fight holds the 19th frame while the body is in the air, then it falls.
 constexpr Motion Launch(const char* name, int action, const Pose* hit, const Pose* air, const Pose* flat,
@@ -105,7 +109,7 @@ constexpr Motion Launch(const char* name, int action, const Pose* hit, const Pos
 // ---- motions ------------------------------------------------------------------------------
 constexpr Motion kMotions[] = {
     M("crumple", 143, &kStance,
-      {P(&kDoubled, 4, Ease::Snap), P(&kKneesDrop, 10, Ease::In), P(&kSitDown, 6, Ease::InOut),
+      {P(&kDoubled, 4, Ease::Snap), Plant(P(&kKneesDrop, 10, Ease::In), 10), Plant(P(&kSitDown, 6, Ease::InOut), 10),
        Impact(Cue(P(&kLyingUp, 8, Ease::In), kCueFall)), P(&kLyingUp, 12, Ease::Linear)}),
     Knockdown("high_knockdown", 144, &kHurtHigh, &kAirBack, &kLyingUp, 2.5f, 1.0f),
     M("stagger_turn", 145, &kStance,
@@ -139,16 +143,15 @@ constexpr Motion kMotions[] = {
     Knockdown("pitch_forward", 162, &kHurtBack, &kFallForward, &kLyingDown, -1.5f, 0.3f),
     Knockdown("spin_down", 163, &kHurtSide, &kSpinFall, &kLyingSpun, 2.0f, 0.5f, 10),
     M("crumple_face", 164, &kStance,
-      {P(&kDoubled, 5, Ease::Snap), P(&kKneesDrop, 12, Ease::In), Impact(Cue(P(&kLyingDown, 10, Ease::In), kCueFall)),
+      {P(&kDoubled, 5, Ease::Snap), Plant(P(&kKneesDrop, 12, Ease::In), 10), Impact(Cue(P(&kLyingDown, 10, Ease::In), kCueFall)),
        P(&kLyingDown, 14, Ease::Linear)}),
     Knockdown("blown_away", 165, &kHurtHeavy, &kAirBackHigh, &kLyingUp, 5.0f, 1.6f),
     Knockdown("heavy_down", 166, &kHurtHeavy, &kFallBack, &kLyingUp, 2.4f, 0.2f),
     Launch("launched_high", 167, &kHurtHeavy, &kAirBackHigh, &kFallFlat, &kLyingUp),
     // The beaten fighter twists round as it falls; it lies head toward the winner.
     M("beaten", 170, &kStance,
-      {Plant(P(&kHurtSide, 5, Ease::Snap), 10), Plant(P(&kKoTwist, 10, Ease::InOut, Z(-1.2f)), 10),
-       Plant(P(&kKoFall, 12, Ease::In, Z(-1.6f)), 10),
-       Impact(Cue(Plant(P(&kLyingBeaten, 8, Ease::In, Z(-0.8f)), 10), kCueFall)),
+      {Plant(P(&kHurtSide, 5, Ease::Out), 16), Plant(P(&kKoLegUp, 3, Ease::Out), 10), Plant(P(&kKoTwist, 7, Ease::InOut), 10),
+       Plant(P(&kKoFall, 12, Ease::In), 10), Impact(Cue(Plant(P(&kLyingBeaten, 8, Ease::In), 10), kCueFall)),
        P(&kLyingBeaten, 24, Ease::Linear)}),
     Knockdown("knocked_off_feet", 171, &kHurtHead, &kFallBackTurn, &kLyingUp, 1.8f, 0.8f),
     Knockdown("big_blow", 172, &kDoubled, &kAirBackTwist, &kLyingUp, 3.6f, 1.2f),
@@ -159,7 +162,7 @@ constexpr Motion kMotions[] = {
       {P(&kHurtHeavy, 4, Ease::Snap, Z(-0.5f)), P(&kStumble, 8, Ease::InOut, Z(-1.0f)),
        P(&kFallBack, 10, Ease::In, Z(-1.0f)), Impact(Cue(P(&kLyingUp, 8, Ease::In, Z(-0.5f)), kCueFall)),
        P(&kLyingUp, 14, Ease::Linear)}),
-    Knockdown("twist_down", 175, &kHurtHead, &kSpinFallLeft, &kLyingSpunLeft, 1.6f, 0.3f, 10),
+    Knockdown("twist_down", 175, &kHurtHead, &kSpinFallLeft, &kLyingSpunLeft, 1.6f, 1.0f, 10),
 };
 
 }  // namespace

@@ -14,22 +14,24 @@ constexpr int kGrabFrames = 10, kLiftFrames = 18, kHurlFrames = 12;
 constexpr Pose kGrab = With(kStance, {{4, 6, 10, 0},     {3, 16, 0, 0},    {2, -10, -10, 0},
                                       {11, -80, -20, 0}, {12, -40, 0, 0},  {13, -30, 0, 0},
                                       {5, -80, 20, 0},   {6, -40, 0, 0},   {7, -30, 0, 0}});
-constexpr Pose kLift = With(kGrab, {{4, -10, 10, 0},   {3, -16, 0, 0},  {2, -20, -10, 0},
-                                    {11, -150, -10, 0}, {12, -40, 0, 0}, {5, -150, 10, 0}, {6, -40, 0, 0},
+constexpr Pose kLift = With(kGrab, {{4, -4, 10, 0},    {3, -4, 0, 0},   {2, -8, -10, 0},
+                                    {11, -115, -10, 0}, {12, -40, 0, 0}, {5, -115, 10, 0}, {6, -40, 0, 0},
                                     {14, -40, -8, -4},  {15, 60, 0, 0},  {8, -10, -6, 6},  {9, 60, 0, 0}});
 constexpr Pose kHurl = With(kGrab, {{4, 20, 10, 0},   {3, 40, 0, 0},   {2, -30, -10, 0},
                                     {11, -70, 0, -10}, {12, -10, 0, 0}, {5, -70, 0, 10}, {6, -10, 0, 0},
                                     {14, -50, -8, -4}, {15, 50, 0, 0},  {8, 20, -6, 6},  {9, 30, 0, 0}});
 // The heave at the top of the throw: arms driven up and the body stretched onto its toes while the
-// victim rises off the hands, before the slam brings both down together.
-constexpr Pose kHeave = With(kLift, {{4, -14, 10, 0},   {3, -24, 0, 0},  {2, -26, -10, 0},
+// victim rises off the hands, before the slam brings both down together. The legs and arms do
+// the lifting: the back stays near upright, the head only tipped to watch the victim go over.
+constexpr Pose kHeave = With(kLift, {{4, -6, 10, 0},    {3, -8, 0, 0},   {2, -12, -10, 0},
                                      {11, -172, -10, 0}, {12, -14, 0, 0}, {5, -172, 10, 0}, {6, -14, 0, 0},
                                      {15, 30, 0, 0},     {9, 30, 0, 0}});
 // From the low stance: a hip throw, turning the victim over the hip.
 constexpr Pose kGrabLow = With(kLow, {{3, 14, 0, 0},     {2, -10, -20, 0},
                                       {11, -80, -20, 0}, {12, -40, 0, 0}, {5, -80, 20, 0}, {6, -40, 0, 0}});
-constexpr Pose kHipTurn = With(kGrabLow, {{4, 20, 110, 0},  {3, 20, 10, 0},  {2, -10, -90, 0},
-                                          {11, -100, 40, 0}, {12, -90, 0, 0}, {5, -60, 0, 30}, {6, -110, 0, 0}});
+// The hips turn in under the victim while the chest turns back to keep both hands on it.
+constexpr Pose kHipTurn = With(kGrabLow, {{4, 20, 60, 0},   {3, 20, -40, 0}, {2, -10, -20, 0},
+                                          {11, -90, 0, 0},  {12, -50, 0, 0}, {5, -90, 0, 0}, {6, -50, 0, 0}});
 constexpr Pose kHipHurl = With(kHipTurn, {{4, 30, 70, 0}, {3, 40, 0, 0}, {11, -40, 0, -30}, {5, -30, 0, 40},
                                           {12, -20, 0, 0}, {6, -20, 0, 0}});
 // The hip turned on through, the victim rolling over the back, before it is flung down.
@@ -139,7 +141,7 @@ constexpr Toss kTosses[] = {
     {-3.0f, 1.8f, Land::Back},    // 86
     {-2.0f, 1.0f, Land::Back},    // 87
     {-0.5f, 0.4f, Land::Face},    // 88
-    {7.0f, 3.0f, Land::Turned},   // 89
+    {10.0f, 5.0f, Land::Turned},  // 89
     {-1.5f, 1.2f, Land::Back},    // 90
     {-2.5f, 1.0f, Land::Back},    // 91
     {-1.8f, 1.2f, Land::Back},    // 92
@@ -148,7 +150,7 @@ constexpr Toss kTosses[] = {
     {-2.8f, 0.8f, Land::Back},    // 95
     {0.0f, 0.2f, Land::Back},     // 96
     {-1.2f, 0.4f, Land::Back},    // 97
-    {7.5f, 3.4f, Land::Turned},   // 98
+    {9.5f, 5.4f, Land::Turned},   // 98
     {-2.2f, 2.5f, Land::Back},    // 99
     {-3.0f, 1.5f, Land::Back},    // 100
     {-2.0f, 1.0f, Land::Back},    // 101

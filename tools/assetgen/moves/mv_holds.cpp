@@ -74,7 +74,7 @@ Pose LowClinch(const Pose& s) {
                    {0, -1.0f, 0});
 }
 Pose Lift(const Pose& s) {
-  return Pose_With(s, {{3, -10, 0, 0}, {2, -20, 0, 0}, {5, -170, 10, 10}, {6, -20, 0, 0}, {11, -170, -10, -10},
+  return Pose_With(s, {{3, -4, 0, 0}, {2, -10, 0, 0}, {5, -170, 10, 10}, {6, -20, 0, 0}, {11, -170, -10, -10},
                        {12, -20, 0, 0}, {15, 15, 0, 0}, {9, 15, 0, 0}});
 }
 Pose Slam(const Pose& s) {
@@ -83,8 +83,9 @@ Pose Slam(const Pose& s) {
                    {0, -0.8f, 0});
 }
 Pose Shoulder(const Pose& s) {
-  return Pose_Spun(Pose_With(s, {{3, 20, 0, 0}, {5, -150, 0, 20}, {6, -90, 0, 0}, {11, -150, 0, -20},
-                                 {12, -90, 0, 0}, {15, 60, 0, 0}, {9, 60, 0, 0}}),
+  // Turned under the defender, upright, arms up to hold it across the shoulders.
+  return Pose_Spun(Pose_With(s, {{3, 0, 0, 0}, {2, 10, 0, 0}, {5, -170, 0, 15}, {6, -30, 0, 0}, {11, -170, 0, -15},
+                                 {12, -30, 0, 0}, {15, 50, 0, 0}, {9, 50, 0, 0}}),
                    -180);
 }
 Pose Sweep(const Pose& s) {
@@ -106,7 +107,9 @@ PoseSet Make_Set(HoldScript script) {
       return {{Clinch(s), Shoulder(s), Pose_Spun(Slam(s), -180), Pose_Spun(s, -360)},
               {Seized(), Upended(), Pose_Spun(OnBack(), 180)}};
     case HoldScript::Spin:
-      return {{Clinch(s), Pose_Spun(Clinch(s), -120), Pose_Spun(Shove(s), -240), Pose_Spun(s, -360)},
+      // The swing hauls the defender round in front of the attacker's hands; the turn that follows
+      // comes all the way round to shove it off.
+      return {{Clinch(s), Pose_Spun(Clinch(s), -40), Pose_Spun(Shove(s), -360), Pose_Spun(s, -360)},
               {Seized(), Swung(), Flung(), OnFront()}};
     case HoldScript::Toss:
     case HoldScript::Count:
@@ -117,7 +120,7 @@ PoseSet Make_Set(HoldScript script) {
 
 // ---- beats ----------------------------------------------------------------------------------
 constexpr HoldBeat kKnees[] = {
-    H(0, 0, 6, Ease::Out, kCueShout, -1, false, false, 0.8f),
+    H(0, 0, 6, Ease::Out, kCueShout, -1, false, false, 0.35f),
     H(1, 2, 5, Ease::Snap, kCueHeavy, 40), H(0, 1, 5, Ease::InOut),
     H(1, 2, 5, Ease::Snap, kCueHeavy, 41), H(0, 1, 5, Ease::InOut, -1, -1, false, true),
     H(1, 2, 5, Ease::Snap, kCueHeavy, 42), H(0, 1, 4, Ease::InOut),
@@ -125,26 +128,29 @@ constexpr HoldBeat kKnees[] = {
     H(2, 4, 8, Ease::In, -1, kCueFall, true, false, -1.0f),
     H(-1, 4, 16, Ease::InOut),
 };
+// How high the slam lifts the defender: lying across the attacker's hands above its head, not
+// through its chest.
+constexpr float kOverhead = 9.5f;
 constexpr HoldBeat kSlam[] = {
     H(0, 0, 8, Ease::Out, kCueShout, -1, false, false, 0.8f),
-    H(1, 1, 12, Ease::InOut, -1, 40, false, false, 2.6f, 5.0f),
+    H(1, 1, 12, Ease::InOut, -1, 40, false, false, 2.6f, kOverhead),
     H(1, 1, 8, Ease::Linear, -1, -1, false, true),
-    H(2, 2, 6, Ease::In, kCueHeavy, kCueFall, true, false, -2.4f, -5.0f),
+    H(2, 2, 6, Ease::In, kCueHeavy, kCueFall, true, false, -2.4f, -kOverhead),
     H(2, 2, 10, Ease::Linear),
     H(-1, 2, 20, Ease::InOut),
 };
 constexpr HoldBeat kOver[] = {
     H(0, 0, 8, Ease::Out, kCueShout, -1, false, false, 0.8f),
     H(1, 0, 8, Ease::InOut, -1, 40, false, false, 0.5f),
-    H(2, 1, 8, Ease::InOut, kCueHeavy, -1, false, true, 3.0f, 4.5f),
-    H(2, 2, 8, Ease::In, -1, kCueFall, true, false, 3.2f, -4.5f),
+    H(1, 1, 8, Ease::InOut, kCueHeavy, -1, false, true, 2.7f, kOverhead),  // up over the raised hands,
+    H(2, 2, 8, Ease::In, -1, kCueFall, true, false, 3.0f, -kOverhead),     // then over and down behind
     H(3, 2, 12, Ease::InOut),
     H(3, 2, 20, Ease::Linear),
 };
 constexpr HoldBeat kSpin[] = {
     H(0, 0, 6, Ease::Out, kCueShout, -1, false, false, 0.8f),
     H(1, 1, 10, Ease::InOut, -1, 40, false, true),
-    H(2, 2, 8, Ease::Snap, kCueHeavy, -1, false, false, -3.0f, 1.5f),
+    H(2, 2, 8, Ease::Snap, kCueHeavy, -1, false, false, -4.5f, 1.5f),  // flung clear of the feet
     H(2, 3, 6, Ease::In, -1, kCueFall, true, false, 0, -1.5f),
     H(3, 3, 12, Ease::InOut),
     H(3, 3, 22, Ease::Linear),

@@ -230,6 +230,7 @@ Move Build_Move(int character, int action, const Style& st, const Row& row) {
   const int support = Part_Of(kick == Limb::LeadFoot ? Limb::RearFoot : Limb::LeadFoot, mirror, st);
   const mot::Pose* prev = &stance;
   int frame = 0;
+  float carried = 0;
   for (int i = 0; i < d.beat_count && i < mot::kMaxPhases; ++i) {
     const Beat& b = d.beats[i];
     mot::Phase& ph = mv.motion.phases[mv.motion.phase_count++];
@@ -239,11 +240,21 @@ Move Build_Move(int character, int action, const Style& st, const Row& row) {
     ph.frames = b.timed ? std::max(1, static_cast<int>(std::lround(b.frames * st.speed))) : b.frames;
     if (b.limb != Limb::None) ph.frames = std::max(2, ph.frames);
     ph.ease = b.ease;
+    // A long lunge steps its way in: not snapped (most of the way on the first frame) but eased.
+    if (b.forward >= 1.0f && b.up == 0 && ph.ease == mot::Ease::Snap) ph.ease = mot::Ease::Out;
+    if (b.forward >= 1.5f) ph.frames = std::max(4, ph.frames);
     ph.strike_part = Part_Of(b.limb, mirror, st);
     ph.hit = b.hit == 1 ? row.main : (b.hit == 2 ? row.finish : 0);
     ph.cue = b.cue;
     ph.link = b.link;
-    ph.travel = {0, b.up, b.forward};
+    ph.travel = {0, b.up, b.forward + carried};
+    carried = 0;
+    // A foot turned on stays on its spot: the ground a turning beat would cover is covered by the
+    // beat after it, once the body has come round.
+    if (ph.plant != 0 && i + 1 < d.beat_count) {
+      carried = ph.travel.z;
+      ph.travel.z = 0;
+    }
     frame += ph.frames;
     if (b.hit == 3) mv.marks.push_back({frame, 0, 1});  // a foot settles
   }
