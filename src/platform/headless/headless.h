@@ -31,6 +31,11 @@ int Headless_KeyCode(const char* name);
 void Headless_SetFrameLimit(long frames);
 // Capture every `every`-th presented frame as DIR/frame-NNNNNN.png (NNNNNN its number).
 void Headless_SetShots(const char* dir, int every);
+// When on, only the presented pictures the shots keep are drawn in full; every other one is
+// drawn into a one-pixel target, so each frame still makes every GL call and runs exactly the
+// game code it always runs, only far quicker. Without shots nothing is drawn in full (the
+// last picture, Headless_Pixels, then stays as it was).
+void Headless_SetDrawShotsOnly(bool only);
 // Reports the game's current mode for the summary line.
 void Headless_SetModeProbe(int (*probe)());
 // Called after every frame of the main loop with that frame's number (from 0); nullptr for
