@@ -29,6 +29,8 @@ struct HeadlessState {
   bool draw_shots_only = false;  // frames no shot keeps are drawn into a one-pixel target
   bool full_target = true;       // the context draws into the whole 640 x 480 picture
   int (*mode_probe)() = nullptr;
+  int mode = 0;           // the mode the coming frame runs in, as the probe last told it
+  long mode_frames = -1;  // frames run in that mode since it was entered
   void (*frame_hook)(long frame) = nullptr;
   bool summary_printed = false;
   Headless_ExitHook exit_hook = nullptr;
@@ -48,6 +50,17 @@ bool make_current(bool full) {
 bool next_picture_kept() {
   if (!H.draw_shots_only) return true;
   return H.shot_every > 0 && (H.presented + 1) % H.shot_every == 0;
+}
+
+// Follows the game's mode before each frame, for the script's repeated events.
+void track_mode() {
+  const int mode = H.mode_probe ? H.mode_probe() : 0;
+  if (mode != H.mode || H.mode_frames < 0) {
+    H.mode = mode;
+    H.mode_frames = 0;
+  } else {
+    ++H.mode_frames;
+  }
 }
 
 void capture_presented() {
@@ -88,11 +101,13 @@ void Plat_SwapBuffers() {
   if (H.context != nullptr && full != H.full_target) make_current(full);
 }
 
+
 void Plat_RunMainLoop(Plat_Callback idle, Plat_ReshapeCallback reshape, Plat_Callback display) {
   reshape(HEADLESS_WIDTH, HEADLESS_HEIGHT);  // as after going full screen
   display();
   while (H.frame_limit == 0 || H.frames < H.frame_limit) {
-    Headless_ApplyScript(H.frames);
+    track_mode();
+    Headless_ApplyScript(H.frames, H.mode, H.mode_frames);
     idle();
     if (H.frame_hook) H.frame_hook(H.frames);
     ++H.frames;
