@@ -1,0 +1,68 @@
+# Helpers for the one-player scenarios: a run from power-on with a player's script, read back
+# through the per-frame trace.
+
+# one_player_data(<var>): a directory of links to the generated data set (the options screen
+# saves OPTION.CFG where the game runs), or "" without a generated data set.
+function(one_player_data var)
+  game_data(data)
+  set(${var} "" PARENT_SCOPE)
+  if(NOT EXISTS ${data}/OPEN_POS.CAM OR NOT EXISTS ${data}/life.bmp)
+    return()
+  endif()
+  file(MAKE_DIRECTORY ${WORK}/run)
+  file(GLOB files ${data}/*)
+  foreach(f IN LISTS files)
+    get_filename_component(name ${f} NAME)
+    if(NOT name STREQUAL "OPTION.CFG")
+      file(CREATE_LINK ${f} ${WORK}/run/${name} SYMBOLIC)
+    endif()
+  endforeach()
+  set(${var} ${WORK}/run PARENT_SCOPE)
+endfunction()
+
+# one_player_run(<prefix> <data> <script> <frames>): runs the game for at most <frames> frames,
+# drawing in full only the screenshots it keeps (WORK/shots, one picture in 500). Sets
+# <prefix>_MODES (the modes it went through, each run of equal modes once, in order),
+# <prefix>_LENGTHS (the frames of each of those runs) and <prefix>_SUMMARY (the last line).
+function(one_player_run prefix data script frames)
+  execute_process(COMMAND ${HEADLESS} --data ${data} --script ${script} --frames ${frames}
+                          --trace ${WORK}/trace.txt --shots ${WORK}/shots --shot-every 500
+                          --draw-shots-only
+                  WORKING_DIRECTORY ${WORK} OUTPUT_VARIABLE out ERROR_VARIABLE err
+                  RESULT_VARIABLE status TIMEOUT 600)
+  if(NOT status STREQUAL "0")
+    message(FATAL_ERROR "the game ended with [${status}]: ${out} ${err}")
+  endif()
+  string(STRIP "${out}" out)
+  string(REGEX MATCH "[^\n]*$" summary "${out}")
+  file(READ ${WORK}/trace.txt trace)
+  string(REGEX REPLACE "frame=[0-9]+ mode=(-?[0-9]+)[^\n]*\n" "\\1;" all "${trace}")
+  set(modes "")
+  set(lengths "")
+  set(last "none")
+  set(length 0)
+  foreach(mode IN LISTS all)
+    if(NOT mode STREQUAL last)
+      if(NOT last STREQUAL "none")
+        list(APPEND lengths ${length})
+      endif()
+      list(APPEND modes ${mode})
+      set(last ${mode})
+      set(length 0)
+    endif()
+    math(EXPR length "${length} + 1")
+  endforeach()
+  list(APPEND lengths ${length})
+  set(${prefix}_MODES "${modes}" PARENT_SCOPE)
+  set(${prefix}_LENGTHS "${lengths}" PARENT_SCOPE)
+  set(${prefix}_SUMMARY "${summary}" PARENT_SCOPE)
+endfunction()
+
+# expect_modes_begin(<what> <modes> <expected>): the modes ran begin with the expected ones.
+function(expect_modes_begin what modes expected)
+  list(LENGTH expected n)
+  list(SUBLIST modes 0 ${n} head)
+  if(NOT "${head}" STREQUAL "${expected}")
+    message(FATAL_ERROR "${what}: the modes ran [${modes}], expected to begin [${expected}]")
+  endif()
+endfunction()
