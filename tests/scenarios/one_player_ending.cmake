@@ -3,6 +3,12 @@
 # boss, the ending's panels play, the title and the attract show follow.
 include(${SRC}/support/scenario.cmake)
 include(${SRC}/support/one_player.cmake)
+if(SANITIZE)
+  # Some 150,000 frames: minutes under the sanitizers. The game-over run covers the same scenes
+  # but the ending there.
+  message(STATUS "a sanitizer build: the run to the ending is skipped")
+  return()
+endif()
 one_player_data(data)
 if(NOT data)
   message(STATUS "no generated data set: the one-player game is skipped")
@@ -13,7 +19,7 @@ file(READ ${SRC}/scenarios/scripts/one_player_run.txt script)
 file(WRITE ${WORK}/ending.txt "${script}"
      "# He presses start one second into every continue offer.\n"
      "in 3 every 100000 +65 tap A\n")
-one_player_run(run ${data} ${WORK}/ending.txt 150000)
+one_player_run(run ${data} ${WORK}/ending.txt 200000)
 message(STATUS "modes: ${run_MODES}")
 message(STATUS "frames in each: ${run_LENGTHS}")
 

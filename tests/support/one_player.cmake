@@ -25,7 +25,8 @@ endfunction()
 # <prefix>_MODES (the modes it went through, each run of equal modes once, in order),
 # <prefix>_LENGTHS (the frames of each of those runs) and <prefix>_SUMMARY (the last line).
 function(one_player_run prefix data script frames)
-  execute_process(COMMAND ${HEADLESS} --data ${data} --script ${script} --frames ${frames}
+  # One rasteriser thread: the pictures nobody keeps are a single pixel.
+  execute_process(COMMAND ${CMAKE_COMMAND} -E env LP_NUM_THREADS=0 ${HEADLESS} --data ${data} --script ${script} --frames ${frames}
                           --trace ${WORK}/trace.txt --shots ${WORK}/shots --shot-every 500
                           --draw-shots-only
                   WORKING_DIRECTORY ${WORK} OUTPUT_VARIABLE out ERROR_VARIABLE err
