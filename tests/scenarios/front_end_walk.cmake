@@ -12,7 +12,7 @@ endif()
 # run_traced(<modes-var> <frames> [args...]): runs the game with a trace and gives the modes
 # it went through, each run of equal modes once, in order.
 function(run_traced var frames)
-  execute_process(COMMAND ${HEADLESS} --data ${data} --frames ${frames}
+  execute_process(COMMAND ${HEADLESS} --data ${data} --frames ${frames} --draw-shots-only
                           --trace ${WORK}/trace.txt ${ARGN}
                   WORKING_DIRECTORY ${WORK} OUTPUT_VARIABLE out ERROR_VARIABLE err
                   RESULT_VARIABLE status TIMEOUT 1200)
