@@ -80,8 +80,8 @@ constexpr int kOptionCount = sizeof kOptions / sizeof kOptions[0];
 
 constexpr const char* kSynopsis =
     "usage: valdrune-headless --data DIR [--frames N] [--script FILE]"
-    " [--shots OUTDIR --shot-every K [--draw-shots-only]]\n"
-    "       [--start fight:S0:S1 | --start demo]\n"
+    " [--shots OUTDIR --shot-every K]\n"
+    "       [--draw-shots-only] [--trace FILE] [--start fight:S0:S1 | --start demo]\n"
     "       valdrune-headless --data DIR --pose CHAR:ACTION:FRAME --out FILE.png\n"
     "       valdrune-headless --data DIR --sheet OUTDIR\n"
     "       valdrune-headless --data DIR --tournament N [--level L] [--usage]\n"
