@@ -2,24 +2,25 @@
 # each time the continue offer shows he presses start at once. He beats ten opponents and the
 # boss, the ending's panels play, the title and the attract show follow.
 include(${SRC}/support/scenario.cmake)
-include(${SRC}/support/one_player.cmake)
+include(${SRC}/support/mode_runs.cmake)
 if(SANITIZE)
   # Some 150,000 frames: minutes under the sanitizers. The game-over run covers the same scenes
   # but the ending there.
   message(STATUS "a sanitizer build: the run to the ending is skipped")
   return()
 endif()
-one_player_data(data)
-if(NOT data)
+game_data(data)
+if(NOT EXISTS ${data}/OPEN_POS.CAM OR NOT EXISTS ${data}/life.bmp)
   message(STATUS "no generated data set: the one-player game is skipped")
   return()
 endif()
+linked_data(data)
 
 file(READ ${SRC}/scenarios/scripts/one_player_run.txt script)
 file(WRITE ${WORK}/ending.txt "${script}"
      "# He presses start one second into every continue offer.\n"
      "in 3 every 100000 +65 tap A\n")
-one_player_run(run ${data} ${WORK}/ending.txt 200000)
+run_modes(run ${data} 200000 --script ${WORK}/ending.txt --shots ${WORK}/shots --shot-every 500)
 message(STATUS "modes: ${run_MODES}")
 message(STATUS "frames in each: ${run_LENGTHS}")
 

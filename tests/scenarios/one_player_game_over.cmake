@@ -3,14 +3,16 @@
 # The continue offer shows; he lets its count run out, GAME OVER follows, then the title and
 # the attract show (a demonstration, the title, the rankings).
 include(${SRC}/support/scenario.cmake)
-include(${SRC}/support/one_player.cmake)
-one_player_data(data)
-if(NOT data)
+include(${SRC}/support/mode_runs.cmake)
+game_data(data)
+if(NOT EXISTS ${data}/OPEN_POS.CAM OR NOT EXISTS ${data}/life.bmp)
   message(STATUS "no generated data set: the one-player game is skipped")
   return()
 endif()
+linked_data(data)
 
-one_player_run(run ${data} ${SRC}/scenarios/scripts/one_player_run.txt 60000)
+run_modes(run ${data} 60000 --script ${SRC}/scenarios/scripts/one_player_run.txt
+          --shots ${WORK}/shots --shot-every 500)
 message(STATUS "modes: ${run_MODES}")
 message(STATUS "frames in each: ${run_LENGTHS}")
 

@@ -1,14 +1,10 @@
-# Helpers for the one-player scenarios: a run from power-on with a player's script, read back
-# through the per-frame trace.
+# Helpers for the scenarios that follow the game's modes: a run from power-on, read back through
+# the per-frame trace.
 
-# one_player_data(<var>): a directory of links to the generated data set (the options screen
-# saves OPTION.CFG where the game runs), or "" without a generated data set.
-function(one_player_data var)
+# linked_data(<var>): a directory of links to the data set (the options screen saves OPTION.CFG
+# where the game runs).
+function(linked_data var)
   game_data(data)
-  set(${var} "" PARENT_SCOPE)
-  if(NOT EXISTS ${data}/OPEN_POS.CAM OR NOT EXISTS ${data}/life.bmp)
-    return()
-  endif()
   file(MAKE_DIRECTORY ${WORK}/run)
   file(GLOB files ${data}/*)
   foreach(f IN LISTS files)
@@ -20,15 +16,14 @@ function(one_player_data var)
   set(${var} ${WORK}/run PARENT_SCOPE)
 endfunction()
 
-# one_player_run(<prefix> <data> <script> <frames>): runs the game for at most <frames> frames,
-# drawing in full only the screenshots it keeps (WORK/shots, one picture in 500). Sets
-# <prefix>_MODES (the modes it went through, each run of equal modes once, in order),
-# <prefix>_LENGTHS (the frames of each of those runs) and <prefix>_SUMMARY (the last line).
-function(one_player_run prefix data script frames)
+# run_modes(<prefix> <data> <frames> [args...]): runs the game for at most <frames> frames with
+# a trace, drawing in full only the screenshots the arguments ask for. Sets <prefix>_MODES (the
+# modes it went through, each run of equal modes once, in order), <prefix>_LENGTHS (the frames
+# of each of those runs) and <prefix>_SUMMARY (the last line).
+function(run_modes prefix data frames)
   # One rasteriser thread: the pictures nobody keeps are a single pixel.
-  execute_process(COMMAND ${CMAKE_COMMAND} -E env LP_NUM_THREADS=0 ${HEADLESS} --data ${data} --script ${script} --frames ${frames}
-                          --trace ${WORK}/trace.txt --shots ${WORK}/shots --shot-every 500
-                          --draw-shots-only
+  execute_process(COMMAND ${CMAKE_COMMAND} -E env LP_NUM_THREADS=0 ${HEADLESS} --data ${data}
+                          --frames ${frames} --trace ${WORK}/trace.txt --draw-shots-only ${ARGN}
                   WORKING_DIRECTORY ${WORK} OUTPUT_VARIABLE out ERROR_VARIABLE err
                   RESULT_VARIABLE status TIMEOUT 600)
   if(NOT status STREQUAL "0")
