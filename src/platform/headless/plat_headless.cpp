@@ -101,7 +101,6 @@ void Plat_SwapBuffers() {
   if (H.context != nullptr && full != H.full_target) make_current(full);
 }
 
-
 void Plat_RunMainLoop(Plat_Callback idle, Plat_ReshapeCallback reshape, Plat_Callback display) {
   reshape(HEADLESS_WIDTH, HEADLESS_HEIGHT);  // as after going full screen
   display();
