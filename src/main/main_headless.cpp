@@ -38,6 +38,7 @@ struct HeadlessArgs {
   long tournament = 0;  // rounds per pairing; 0: no tournament
   long level = 70;      // the tournament's computer level
   bool usage = false;
+  bool draw_shots_only = false;
   bool level_given = false;
 };
 HeadlessArgs Args;
@@ -68,6 +69,8 @@ const OptionRow kOptions[] = {
     {.name = "--shots", .value = "OUTDIR", .help = "write presented frames as PNG (with --shot-every)", .text = &Args.shots}, // shots
     {.name = "--shot-every", .value = "K", .help = "every K-th presented frame (with --shots)",
      .number = &Args.every, .low = 1, .high = INT_MAX},                                                                      // shot-every
+    {.name = "--draw-shots-only", .value = nullptr, .help = "draw in full only the pictures --shots keeps (the game runs the same, quicker)",
+     .flag = &Args.draw_shots_only},                                                                                         // draw-shots-only
     {.name = "--start", .value = "fight:S0:S1|demo", .help = "straight to a match of select slots S0, S1 (0..29), or a demonstration",
      .check = Shell_ParseStart},                                                                                             // start
     {.name = "--pose", .value = "CHAR:ACTION:FRAME", .help = "draw one fighter in one frame of an action (with --out)",
@@ -88,7 +91,8 @@ constexpr int kOptionCount = sizeof kOptions / sizeof kOptions[0];
 
 constexpr const char* kSynopsis =
     "usage: valdrune-headless --data DIR [--frames N] [--script FILE]"
-    " [--shots OUTDIR --shot-every K] [--start fight:S0:S1 | --start demo]\n"
+    " [--shots OUTDIR --shot-every K]\n"
+    "       [--draw-shots-only] [--trace FILE] [--start fight:S0:S1 | --start demo]\n"
     "       valdrune-headless --data DIR --pose CHAR:ACTION:FRAME --out FILE.png\n"
     "       valdrune-headless --data DIR --sheet OUTDIR\n"
     "       valdrune-headless --data DIR --pair THROWER:VICTIM:ACTION --out FILE.png\n"
@@ -175,6 +179,7 @@ int main(int argc, char** argv) {
   }
   Headless_SetFrameLimit(Args.frames);
   if (Args.shots) Headless_SetShots(shots_path, static_cast<int>(Args.every));
+  Headless_SetDrawShotsOnly(Args.draw_shots_only);
   Headless_SetModeProbe(current_mode);
 
   const int status = Game_Main();

@@ -19,10 +19,15 @@ void Headless_ResetInput();
 // Script: one event a line, "FRAME down KEY", "FRAME up KEY", "FRAME tap KEY",
 // "FRAME joy PAD axis x|y VALUE", "FRAME joy PAD button B down|up"; blank lines and lines
 // starting with '#' are skipped. FRAME counts the game's frames from 0; an event for frame F
-// takes effect before frame F runs. Returns 1, or 0 with a message naming the line in `err`.
+// takes effect before frame F runs. A line "in MODE every N [+K] down|up|tap KEY" repeats a
+// key event while the game is in mode MODE (the mode probe's number): before each frame whose
+// count since the mode was entered (0 for its first frame) is K more than a multiple of N;
+// as a player presses start each time the continue offer shows, or repeats a move all fight.
+// Returns 1, or 0 with a message naming the line in `err`.
 int Headless_LoadScript(const char* path, char* err, int err_size);
-// Applies the script's events for `frame`. Called by the main loop before each frame.
-void Headless_ApplyScript(long frame);
+// Applies the script's events for `frame`, the game being in `mode` since `mode_frames`
+// frames. Called by the main loop before each frame.
+void Headless_ApplyScript(long frame, int mode, long mode_frames);
 
 // Key name as the script writes it (F1, ESC, A..Z, ...) to its virtual-key code, or -1.
 int Headless_KeyCode(const char* name);
@@ -31,6 +36,11 @@ int Headless_KeyCode(const char* name);
 void Headless_SetFrameLimit(long frames);
 // Capture every `every`-th presented frame as DIR/frame-NNNNNN.png (NNNNNN its number).
 void Headless_SetShots(const char* dir, int every);
+// When on, only the presented pictures the shots keep are drawn in full; every other one is
+// drawn into a one-pixel target, so each frame still makes every GL call and runs exactly the
+// game code it always runs, only far quicker. Without shots nothing is drawn in full (the
+// last picture, Headless_Pixels, then stays as it was).
+void Headless_SetDrawShotsOnly(bool only);
 // Reports the game's current mode for the summary line.
 void Headless_SetModeProbe(int (*probe)());
 // Called after every frame of the main loop with that frame's number (from 0); nullptr for

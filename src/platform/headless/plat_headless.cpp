@@ -26,13 +26,42 @@ struct HeadlessState {
   long presented = 0;
   char shot_dir[512] = "";
   int shot_every = 0;
+  bool draw_shots_only = false;  // frames no shot keeps are drawn into a one-pixel target
+  bool full_target = true;       // the context draws into the whole 640 x 480 picture
   int (*mode_probe)() = nullptr;
+  int mode = 0;           // the mode the coming frame runs in, as the probe last told it
+  long mode_frames = -1;  // frames run in that mode since it was entered
   void (*frame_hook)(long frame) = nullptr;
   bool summary_printed = false;
   Headless_ExitHook exit_hook = nullptr;
   bool quiet_diagnostics = false;
 };
 HeadlessState H;
+
+// Points the context at the whole picture, or (for a picture nobody will look at) at one
+// pixel, so that every GL call still runs but almost nothing is rasterised.
+bool make_current(bool full) {
+  H.full_target = full;
+  return OSMesaMakeCurrent(H.context, H.draw, GL_UNSIGNED_BYTE, full ? HEADLESS_WIDTH : 1,
+                           full ? HEADLESS_HEIGHT : 1);
+}
+
+// Whether the coming presented picture is one the run keeps.
+bool next_picture_kept() {
+  if (!H.draw_shots_only) return true;
+  return H.shot_every > 0 && (H.presented + 1) % H.shot_every == 0;
+}
+
+// Follows the game's mode before each frame, for the script's repeated events.
+void track_mode() {
+  const int mode = H.mode_probe ? H.mode_probe() : 0;
+  if (mode != H.mode || H.mode_frames < 0) {
+    H.mode = mode;
+    H.mode_frames = 0;
+  } else {
+    ++H.mode_frames;
+  }
+}
 
 void capture_presented() {
   glFinish();
@@ -54,29 +83,30 @@ int Plat_OpenWindow(const char*) {
     H.context = OSMesaCreateContextExt(OSMESA_RGBA, 24, 0, 0, nullptr);
     if (H.context == nullptr) return 0;
   }
-  if (!OSMesaMakeCurrent(H.context, H.draw, GL_UNSIGNED_BYTE, HEADLESS_WIDTH, HEADLESS_HEIGHT))
-    return 0;
-  return 1;
+  return make_current(next_picture_kept()) ? 1 : 0;
 }
 
 std::uintptr_t Plat_FindWindow(const char*) { return 1; }  // the only window there is
 void Plat_FullScreen() {}
 
 void Plat_SwapBuffers() {
-  capture_presented();
+  if (H.full_target) capture_presented();
   ++H.presented;
   if (H.shot_every > 0 && H.presented % H.shot_every == 0) {
     char path[600];
     std::snprintf(path, sizeof path, "%s/frame-%06ld.png", H.shot_dir, H.presented);
     Headless_WritePng(path);
   }
+  const bool full = next_picture_kept();
+  if (H.context != nullptr && full != H.full_target) make_current(full);
 }
 
 void Plat_RunMainLoop(Plat_Callback idle, Plat_ReshapeCallback reshape, Plat_Callback display) {
   reshape(HEADLESS_WIDTH, HEADLESS_HEIGHT);  // as after going full screen
   display();
   while (H.frame_limit == 0 || H.frames < H.frame_limit) {
-    Headless_ApplyScript(H.frames);
+    track_mode();
+    Headless_ApplyScript(H.frames, H.mode, H.mode_frames);
     idle();
     if (H.frame_hook) H.frame_hook(H.frames);
     ++H.frames;
@@ -164,6 +194,11 @@ void Headless_SetFrameLimit(long frames) { H.frame_limit = frames; }
 void Headless_SetShots(const char* dir, int every) {
   std::snprintf(H.shot_dir, sizeof H.shot_dir, "%s", dir);
   H.shot_every = every;
+}
+
+void Headless_SetDrawShotsOnly(bool only) {
+  H.draw_shots_only = only;
+  if (H.context != nullptr) make_current(next_picture_kept());
 }
 
 void Headless_SetExitHook(Headless_ExitHook hook) { H.exit_hook = hook; }

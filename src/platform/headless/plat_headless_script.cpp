@@ -25,6 +25,22 @@ ScriptEvent Events[kMaxEvents];  // sorted by frame (stable)
 int EventCount = 0;
 int NextEvent = 0;
 
+// A key event a player repeats while the game shows one mode: on every frame whose count since
+// the mode was entered is `offset` more than a multiple of `every`.
+struct RepeatEvent {
+  int mode;
+  long every;
+  long offset;
+  EventKind kind;  // KeyDown (a tap's release comes on the next frame) or KeyUp
+  bool tap;
+  int code;
+};
+
+constexpr int kMaxRepeats = 256;
+RepeatEvent Repeats[kMaxRepeats];
+int RepeatCount = 0;
+std::uint8_t TapRelease[256];  // keys a repeated tap pressed on the frame before
+
 struct KeyName {
   const char* name;
   int code;
@@ -47,6 +63,36 @@ bool add_event(const ScriptEvent& e) {
   return true;
 }
 
+// "in MODE every N [+K] down|up|tap KEY", already split into tokens.
+const char* parse_repeat(const char* const* tokens, int n) {
+  constexpr const char* kForm = "expected in MODE every N [+K] down|up|tap KEY";
+  if (n != 6 && n != 7) return kForm;
+  if (std::strcmp(tokens[2], "every")) return kForm;
+  char* end = nullptr;
+  RepeatEvent r{};
+  r.mode = static_cast<int>(std::strtol(tokens[1], &end, 10));
+  if (*end != '\0') return "bad mode number";
+  r.every = std::strtol(tokens[3], &end, 10);
+  if (*end != '\0' || r.every < 1) return "bad repeat period";
+  int next = 4;
+  if (n == 7) {
+    if (tokens[4][0] != '+') return kForm;
+    r.offset = std::strtol(tokens[4] + 1, &end, 10);
+    if (*end != '\0' || tokens[4][1] == '\0' || r.offset < 0 || r.offset >= r.every)
+      return "the offset must be 0 up to the period";
+    next = 5;
+  }
+  const char* verb = tokens[next];
+  r.tap = !std::strcmp(verb, "tap");
+  if (!r.tap && std::strcmp(verb, "down") && std::strcmp(verb, "up")) return kForm;
+  r.kind = !std::strcmp(verb, "up") ? EventKind::KeyUp : EventKind::KeyDown;
+  r.code = Headless_KeyCode(tokens[next + 1]);
+  if (r.code < 0) return "unknown key name";
+  if (RepeatCount >= kMaxRepeats) return "too many repeated events";
+  Repeats[RepeatCount++] = r;
+  return nullptr;
+}
+
 // Parses one non-empty line; returns an error text or nullptr.
 const char* parse_line(char* line) {
   char* save = nullptr;
@@ -54,6 +100,7 @@ const char* parse_line(char* line) {
   int n = 0;
   for (char* t = strtok_r(line, " \t\r\n", &save); t && n < 8; t = strtok_r(nullptr, " \t\r\n", &save))
     tokens[n++] = t;
+  if (n >= 1 && !std::strcmp(tokens[0], "in")) return parse_repeat(tokens, n);
   if (n < 3) return "expected FRAME EVENT ARGUMENTS";
   char* end = nullptr;
   const long frame = std::strtol(tokens[0], &end, 10);
@@ -117,7 +164,8 @@ int Headless_KeyCode(const char* name) {
 }
 
 int Headless_LoadScript(const char* path, char* err, int err_size) {
-  EventCount = NextEvent = 0;
+  EventCount = NextEvent = RepeatCount = 0;
+  std::memset(TapRelease, 0, sizeof TapRelease);
   std::FILE* file = std::fopen(path, "r");
   if (file == nullptr) {
     std::snprintf(err, err_size, "%s: cannot open the script", path);
@@ -143,7 +191,18 @@ int Headless_LoadScript(const char* path, char* err, int err_size) {
   return 1;
 }
 
-void Headless_ApplyScript(long frame) {
+void Headless_ApplyScript(long frame, int mode, long mode_frames) {
+  for (int k = 0; k < 256; ++k) {
+    if (TapRelease[k] == 0) continue;
+    TapRelease[k] = 0;
+    Headless_SetKey(k, false);
+  }
+  for (int i = 0; i < RepeatCount; ++i) {
+    const RepeatEvent& r = Repeats[i];
+    if (r.mode != mode || mode_frames % r.every != r.offset) continue;
+    Headless_SetKey(r.code, r.kind == EventKind::KeyDown);
+    if (r.tap) TapRelease[r.code] = 1;
+  }
   while (NextEvent < EventCount && Events[NextEvent].frame <= frame) {
     const ScriptEvent& e = Events[NextEvent++];
     switch (e.kind) {
