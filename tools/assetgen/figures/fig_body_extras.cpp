@@ -1,6 +1,5 @@
 // Clothing pieces, the props of parts 19 and 20, the scarf on the flexible part, and the loose
 // pieces hung on attachment chains.
-#include <algorithm>
 #include <cmath>
 
 #include "figures/fig_body_internal.h"
@@ -153,15 +152,10 @@ void Body_Flex(Model& m, const Look& lk, const BodyFrame& bf) {
   float front = lk.chest_d * (lk.female ? 1.25f : 1.1f) + 0.1f;
   for (int s = 0; s < 2; ++s) {
     float x = s == 0 ? 0.16f : -0.2f;
-    // From the knot they first come forward over the collarbone, then fall: a straight line
-    // from the knot would cut into the upper chest and show as spots on it.
-    Vec3 a{x, bf.neck_base - 0.05f, std::max(nr * 1.1f, lk.chest_d * 0.7f)};
-    Vec3 bend{x * 1.15f, bf.neck_base - 0.35f, lk.chest_d * 0.95f + 0.08f};
+    Station st[] = {{0, 0.15f, 0.04f}, {1, 0.19f, 0.04f}};
+    Vec3 a{x, bf.neck_base - 0.05f, nr * 1.1f};
     Vec3 b{x * 1.4f, bf.neck_base - 1.55f - 0.25f * s, front + 0.1f};
-    Station top[] = {{0, 0.15f, 0.04f}, {1, 0.16f, 0.04f}};
-    Station fall[] = {{0, 0.16f, 0.04f}, {1, 0.19f, 0.04f}};
-    Body_Tube(m, P_FLEX, R_FLEX, a, bend, top, 2, 4, false, false);
-    Body_Tube(m, P_FLEX, R_FLEX, bend, b, fall, 2, 4, false, true);
+    Body_Tube(m, P_FLEX, R_FLEX, a, b, st, 2, 4, false, true);
   }
 }
 
