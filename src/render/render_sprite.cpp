@@ -8,6 +8,7 @@
 #include <cstdlib>
 
 #include "render/render_stage.h"
+#include "render/render_state.h"
 
 SpriteDrawState SpriteDraw;
 
@@ -134,6 +135,23 @@ bool Glow_ScissorOn(const ScreenVertex* q, int slot) {
 
 void Glow_ScissorOff() { glDisable(GL_SCISSOR_TEST); }
 
+bool Glow_AddOn(int slot) {
+  if (slot < 0 || slot >= TEXTURE_SLOTS || Textures.Texture_Opaque[slot] != 1) return false;
+  GLint src = 0, dst = 0;
+  glGetIntegerv(GL_BLEND_SRC, &src);
+  glGetIntegerv(GL_BLEND_DST, &dst);
+  if (src != GL_SRC_ALPHA || dst != GL_SRC_ALPHA) return false;
+  GLfloat colour[4];
+  glGetFloatv(GL_CURRENT_COLOR, colour);
+  if (colour[3] != 1.0f) return false;
+  glBlendFunc(GL_ONE, GL_ONE);
+  return true;
+}
+
+void Glow_AddOff(bool was_on) {
+  if (was_on) Blend_Glow();
+}
+
 // ---- emitters ----------------------------------------------------------------------------
 void Emit_Tri(const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c) {
   const float z = SpriteDraw.Layer_Z;
@@ -231,8 +249,11 @@ void Draw_RasterLGlow(int s, int x, int y, int w, int h, std::uint16_t level) {
   ScreenVertex* q = SpriteDraw.Scratch_Quad;
   for (int k = 0; k < 4; ++k) q[k].r = q[k].g = q[k].b = level;
   place(q, Layout(x), Layout(y), Layout(w), Layout(h), Orient::AsStored);
-  if (Glow_ScissorOn(q, Sprites.Raster_Slot[s])) draw_quad(s, q, Emit_TriTint);
+  const int slot = Sprites.Raster_Slot[s];
+  const bool add = Glow_AddOn(slot);
+  if (Glow_ScissorOn(q, slot)) draw_quad(s, q, Emit_TriTint);
   Glow_ScissorOff();
+  Glow_AddOff(add);
 }
 void Draw_RasterLFade(int s, int x, int y, int w, int h, std::uint16_t level) {
   scratch_colour(level, level, level, level);

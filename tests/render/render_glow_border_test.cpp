@@ -145,3 +145,63 @@ TEST_F(GlowBorder, LeavingTheBorderUnfilledDrawsTheSamePicture) {
 }
 
 }  // namespace
+
+namespace {
+
+// An opaque picture is added to the screen rather than glow-blended; a picture with see-through
+// texels, or one drawn in a see-through colour, keeps the glow. Either way the screen shows
+// what glow blending shows.
+TEST_F(GlowBorder, AddingAnOpaquePictureDrawsWhatGlowDraws) {
+  load("F.BMP", bordered(4, 4, 11, 11, 200, 150, 100), 45);
+  writers::ImageFile half = bordered(3, 3, 12, 12, 90, 200, 250);
+  for (int i = 0; i < kSide * kSide; ++i) half.pixels[i * 4 + 3] = 128;
+  load("H.BMP", half, 61);
+  load("G.BMP", bordered(1, 1, 14, 14, 120, 120, 40), 400);
+  Sprites.Raster_Slot[399] = 400;
+  Textures.Texture_Count = 401;
+  ASSERT_EQ(Textures.Texture_Opaque[45], 1);
+  ASSERT_EQ(Textures.Texture_Opaque[61], 0);
+
+  const auto draw = [](std::uint8_t colour_alpha) {
+    Effects = EffectState{};
+    Spawn_HitEffect(0, -1, 0, 0, 1, 0);  // opaque flash
+    Spawn_HitEffect(0, 1, 0, 0, 3, 0);   // half see-through spark over it
+    Clear_Screen(90, 60, 30);
+    Clear_Depth();
+    glColor4ub(255, 255, 255, colour_alpha);
+    Draw_Effects();
+    glColor4ub(255, 255, 255, 255);
+    glDisable(GL_DEPTH_TEST);
+    Blend_Glow();
+    Draw_RasterLGlow(399, 150, 20, 40, 40, 180);
+    glEnable(GL_DEPTH_TEST);
+    Blend_Normal();
+    return screen();
+  };
+  const std::vector<std::uint8_t> added = draw(255);
+  const std::vector<std::uint8_t> faint = draw(128);
+  std::uint8_t opaque[TEXTURE_SLOTS];
+  std::memcpy(opaque, Textures.Texture_Opaque, sizeof opaque);
+  std::memset(Textures.Texture_Opaque, 0, sizeof Textures.Texture_Opaque);  // glow everywhere
+  const std::vector<std::uint8_t> glow = draw(255);
+  const std::vector<std::uint8_t> faint_glow = draw(128);
+  std::memcpy(Textures.Texture_Opaque, opaque, sizeof opaque);
+
+  EXPECT_GT(at(glow, 215, 192)[0], 200);  // the flash brightens the screen
+  EXPECT_GT(at(glow, 272, 64)[0], 150);   // and so does the display's glow
+  EXPECT_NE(at(faint_glow, 215, 192)[0], at(glow, 215, 192)[0]);
+  // The see-through spark alone over the clear colour: both halved, then summed.
+  const std::uint8_t* spark = at(added, 300, 192);
+  EXPECT_NEAR(spark[0], (90 + 90) / 2, 2);
+  EXPECT_NEAR(spark[1], (200 + 60) / 2, 2);
+  EXPECT_NEAR(spark[2], (250 + 30) / 2, 2);
+  int differing = 0, faint_differing = 0;
+  for (std::size_t i = 0; i < glow.size(); ++i) {
+    differing += added[i] != glow[i];
+    faint_differing += faint[i] != faint_glow[i];
+  }
+  EXPECT_EQ(differing, 0);
+  EXPECT_EQ(faint_differing, 0);
+}
+
+}  // namespace
