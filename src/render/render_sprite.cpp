@@ -47,13 +47,18 @@ void place(ScreenVertex* q, int x, int y, int w, int h, Orient orient) {
 
 using Emitter = void (*)(const ScreenVertex&, const ScreenVertex&, const ScreenVertex&);
 
+bool clear_cut_on(const ScreenVertex* q, int slot);
+
 // Binds the sprite's texture and draws the quad as triangles (2, 3, 0) and (2, 0, 1).
 void draw_quad(int sprite, const ScreenVertex* q, Emitter emit) {
-  glBindTexture(GL_TEXTURE_2D, Textures.TextureId[Sprites.Raster_Slot[sprite]]);
+  const int slot = Sprites.Raster_Slot[sprite];
+  glBindTexture(GL_TEXTURE_2D, Textures.TextureId[slot]);
+  const bool cut = clear_cut_on(q, slot);
   glBegin(GL_TRIANGLES);
   emit(q[2], q[3], q[0]);
   emit(q[2], q[0], q[1]);
   glEnd();
+  if (cut) glDisable(GL_SCISSOR_TEST);
 }
 
 bool valid(int sprite) { return sprite >= 0 && sprite < SPRITE_COUNT; }
@@ -104,15 +109,44 @@ bool has_border(const float* border) {
 
 }  // namespace
 
+namespace {
+
+bool scissor_inside(const ScreenVertex* q, const float* border);
+
+// Under normal blending a texel at zero alpha leaves the screen as it is, and with the depth
+// test off nothing else is written: a picture drawn so need only be filled inside its border
+// of clear texels. Turns the scissor test on around that part and says whether it did (never
+// under a scissor already set, nor for a square whose texture corners are not the usual ones).
+bool clear_cut_on(const ScreenVertex* q, int slot) {
+  if (slot < 0 || slot >= TEXTURE_SLOTS || !has_border(Textures.Clear_Border[slot])) return false;
+  if (q[0].s != 0.0f || q[1].s != 1.0f || q[0].t != 0.0f || q[3].t != 1.0f) return false;
+  if (glIsEnabled(GL_DEPTH_TEST) || glIsEnabled(GL_SCISSOR_TEST) || !glIsEnabled(GL_BLEND))
+    return false;
+  GLint src = 0, dst = 0;
+  glGetIntegerv(GL_BLEND_SRC, &src);
+  glGetIntegerv(GL_BLEND_DST, &dst);
+  if (src != GL_SRC_ALPHA || dst != GL_ONE_MINUS_SRC_ALPHA) return false;
+  if (scissor_inside(q, Textures.Clear_Border[slot])) return true;
+  // Nothing but clear texels: an empty scissor box draws nothing.
+  glEnable(GL_SCISSOR_TEST);
+  glScissor(0, 0, 0, 0);
+  return true;
+}
+
+}  // namespace
+
 bool Glow_WorthCutting(int slot) {
   if (slot < 0 || slot >= TEXTURE_SLOTS) return false;
   const float* border = Textures.Glow_Border[slot];
   return (1.0f - border[0] - border[2]) * (1.0f - border[1] - border[3]) <= kWorthCutting;
 }
 
-bool Glow_ScissorOn(const ScreenVertex* q, int slot) {
-  if (slot < 0 || slot >= TEXTURE_SLOTS || !has_border(Textures.Glow_Border[slot])) return true;
-  const float* border = Textures.Glow_Border[slot];
+namespace {
+
+// Turns the scissor test on around the part of a flat square (corners in order, texture
+// coordinates 0 to 1 across them) that the texels inside `border` fall on; false when the
+// border is the whole picture.
+bool scissor_inside(const ScreenVertex* q, const float* border) {
   const float s0 = border[0], t0 = border[1], s1 = 1.0f - border[2], t1 = 1.0f - border[3];
   if (!(s0 < s1 && t0 < t1)) return false;
   // Where the kept texels fall on the square (mirrored or turned squares included).
@@ -131,6 +165,13 @@ bool Glow_ScissorOn(const ScreenVertex* q, int slot) {
   glEnable(GL_SCISSOR_TEST);
   glScissor(view[0] + left, view[1] + bottom, right - left, top - bottom);
   return true;
+}
+
+}  // namespace
+
+bool Glow_ScissorOn(const ScreenVertex* q, int slot) {
+  if (slot < 0 || slot >= TEXTURE_SLOTS || !has_border(Textures.Glow_Border[slot])) return true;
+  return scissor_inside(q, Textures.Glow_Border[slot]);
 }
 
 void Glow_ScissorOff() { glDisable(GL_SCISSOR_TEST); }

@@ -205,3 +205,73 @@ TEST_F(GlowBorder, AddingAnOpaquePictureDrawsWhatGlowDraws) {
 }
 
 }  // namespace
+
+namespace {
+
+// A picture with a see-through border drawn with normal blending and no depth test is filled
+// only inside the border; with the depth test on (its border still hides what comes later
+// behind it) or under glow blending (where clear texels darken) it is filled whole. Either way
+// the screen shows the same.
+TEST_F(GlowBorder, ASeeThroughBorderIsLeftOutOnlyWhereItChangesNothing) {
+  writers::ImageFile picture = bordered(4, 3, 11, 12, 60, 220, 120);
+  for (int y = 0; y < kSide; ++y)
+    for (int x = 0; x < kSide; ++x) {
+      std::uint8_t* p = &picture.pixels[(y * kSide + x) * 4];
+      const bool outside = x < 4 || x > 12 || y < 2 || y > 12;
+      if (outside) p[0] = 255, p[3] = 0;          // red, but clear
+      if (x == 4 || x == 11) p[3] = outside ? 0 : 128;
+    }
+  load("P.BMP", picture, 400);
+  load("W.BMP", {2, 2, 3, writers::Bytes(12, 255)}, 401);
+  for (int s : {399, 398}) {
+    Sprites.Raster_Slot[s] = s + 1;
+    Sprites.Raster_Width[s] = kSide;
+    Sprites.Raster_Height[s] = kSide;
+  }
+  Textures.Texture_Count = 402;
+  EXPECT_FLOAT_EQ(Textures.Clear_Border[400][0], 4.0f / 16);
+  EXPECT_FLOAT_EQ(Textures.Clear_Border[400][1], 2.0f / 16);
+  EXPECT_FLOAT_EQ(Textures.Clear_Border[400][2], 3.0f / 16);
+  EXPECT_FLOAT_EQ(Textures.Clear_Border[400][3], 3.0f / 16);
+
+  enum Mode { kNoDepth, kDepth, kGlow };
+  // White behind the pictures: drawn first, or with the depth test after them.
+  const auto white = [] {
+    Blend_Normal();
+    SpriteDraw.Layer_Z = -50.0f;
+    Draw_RasterStretch(398, 90, 90, 200, 200);
+    SpriteDraw.Layer_Z = 0.0f;
+  };
+  const auto draw = [&white](Mode mode) {
+    Clear_Screen(30, 60, 90);
+    Clear_Depth();
+    if (mode != kDepth) glDisable(GL_DEPTH_TEST);
+    if (mode != kDepth) white();
+    if (mode == kGlow) Blend_Glow();
+    SpriteDraw.Layer_Z = 0.0f;
+    Draw_RasterStretch(399, 100, 100, 160, 160);
+    Draw_RasterStretchMirror(399, 300, 40, 96, 64);
+    Draw_RasterLFade(399, 10, 150, 60, 60, 200);
+    if (mode == kDepth) white();
+    Blend_Normal();
+    glEnable(GL_DEPTH_TEST);
+    return screen();
+  };
+  for (Mode mode : {kNoDepth, kDepth, kGlow}) {
+    const std::vector<std::uint8_t> cut = draw(mode);
+    float saved[TEXTURE_SLOTS][4];
+    std::memcpy(saved, Textures.Clear_Border, sizeof saved);
+    std::memset(Textures.Clear_Border, 0, sizeof Textures.Clear_Border);  // filled whole
+    const std::vector<std::uint8_t> whole = draw(mode);
+    std::memcpy(Textures.Clear_Border, saved, sizeof saved);
+    int differing = 0;
+    for (std::size_t i = 0; i < whole.size(); ++i) differing += whole[i] != cut[i];
+    EXPECT_EQ(differing, 0) << "mode " << mode;
+    if (mode != kGlow) EXPECT_EQ(at(whole, 180, 180)[1], 220);  // the picture's middle
+    if (mode == kNoDepth) EXPECT_EQ(at(whole, 105, 180)[0], 255);  // white through the border
+    if (mode == kGlow) EXPECT_EQ(at(whole, 105, 180)[0], 0);  // the border darkens
+    if (mode == kDepth) EXPECT_EQ(at(whole, 105, 180)[0], 30);  // hidden by the clear border
+  }
+}
+
+}  // namespace
