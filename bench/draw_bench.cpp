@@ -176,12 +176,7 @@ void fill_display() {
   fighters[0].combo_show = 20;
 }
 
-[[gnu::noinline]] void p_stage() { Clear_Depth(); Draw_Stage(); glFinish(); }
-[[gnu::noinline]] void p_hudbase() { DrainGauges(); Set_DrawMode(40); DrawHudBase(); glFinish(); }
-[[gnu::noinline]] void p_fighters() { Draw_Fighters(); glFinish(); }
-[[gnu::noinline]] void p_msgs() { Set_DrawMode(40); DrawHudMessages(); glFinish(); }
 void full_fight_frame() {
-  if (getenv("SPLIT")) { fill_effects(); fill_display(); Pose_Fighter(0); Pose_Fighter(1); p_stage(); p_hudbase(); p_fighters(); p_msgs(); return; }
   fill_effects();
   fill_display();
   Pose_Fighter(0);

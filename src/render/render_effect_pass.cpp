@@ -1,7 +1,5 @@
 // The effect pass of the fight frame: the gauge-charge flash, hit effects, projectiles,
 // sparks and flames on body parts, each drawn, advanced and retired here.
-#include <GL/gl.h>
-#include <cstdlib>
 #include "fight/fight_state.h"
 #include "render/render_3dsprite.h"
 #include "render/render_effect.h"
@@ -79,10 +77,6 @@ void draw_hit(int i, const HitLook& look, int f) {
   Draw_EffectBillboard(i, slot, hit_size(look, f));
 }
 
-template <int K> [[gnu::noinline]] void hk(int i, int f) { draw_hit(i, kHitLooks[K], f); glFinish(); }
-void kindfin(int k, int i, int f) {
-  switch (k) { case 0: hk<0>(i,f); break; case 1: hk<1>(i,f); break; case 2: hk<2>(i,f); break; case 3: hk<3>(i,f); break; case 4: hk<4>(i,f); break; case 5: hk<5>(i,f); break; case 6: hk<6>(i,f); break; case 7: hk<7>(i,f); break; case 8: hk<8>(i,f); break; case 9: hk<9>(i,f); break; case 10: hk<10>(i,f); break; case 11: hk<11>(i,f); break; case 12: hk<12>(i,f); break; case 13: hk<13>(i,f); break; case 14: hk<14>(i,f); break; default: hk<15>(i,f); }
-}
 // A slot that is not drawn (still waiting, or an unknown kind) is held against the lifetime of
 // the last slot drawn before it in the pass; a waiting one is never retired before its first
 // picture.
@@ -93,7 +87,6 @@ void run_hit_effects() {
     if (!e.active) continue;
     const bool shown = e.frame >= 0 && e.kind >= 0 && e.kind < HIT_KINDS;
     if (shown) {
-      if (getenv("SPLIT")) kindfin(e.kind, i, e.frame); else
       draw_hit(i, kHitLooks[e.kind], e.frame);
       limit = kHitLooks[e.kind].life;
     }
@@ -271,13 +264,7 @@ constexpr float kChargeSize = 15.0f;
 
 }  // namespace
 
-[[gnu::noinline]] void fx_finish() { glFinish(); }
-[[gnu::noinline]] void fx_hits() { run_hit_effects(); glFinish(); }
-[[gnu::noinline]] void fx_proj() { run_projectiles(); glFinish(); }
-[[gnu::noinline]] void fx_sparks() { run_sparks(); glFinish(); }
-[[gnu::noinline]] void fx_parts() { run_part_effects(); glFinish(); }
 void Draw_Effects() {
-  if (getenv("SPLIT")) { fx_finish(); Set_DrawMode(41); Blend_Glow(); fx_hits(); fx_proj(); fx_sparks(); fx_parts(); return; }
   Set_DrawMode(41);
   Blend_Glow();
   for (int i = 0; i < 2; ++i)

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 
 #include "camera/camera_fight.h"
 #include "fight/fight_state.h"
@@ -60,7 +59,6 @@ bool backdrop_opaque() {
   return true;
 }
 
-[[gnu::noinline]] void floorfin() { glFinish(); Draw_Floor(); glFinish(); }
 // An opaque backdrop strip drawn over the floor at the floor's own depth replaces every pixel
 // it covers, so the floor (and its light pool) need only be filled below the strip's lower
 // edge. Turns the scissor test on around that part of the screen and says whether it did.
@@ -89,7 +87,6 @@ void draw_arena() {
   const bool cut = backdrop_solid && floor_cut_on();
   if (floor_opaque) glDisable(GL_BLEND);
   Set_DrawMode(200);
-  if (getenv("SPLIT")) floorfin(); else
   Draw_Floor();  // blending is back on for its light pool
   if (cut) glDisable(GL_SCISSOR_TEST);
   if (backdrop_solid) glDisable(GL_BLEND);
