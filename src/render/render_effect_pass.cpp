@@ -264,16 +264,23 @@ constexpr float kChargeSize = 15.0f;
 
 }  // namespace
 
+// The flashes, hit effects and body-part effects are drawn in the current colour, opaque
+// white through a fight, so their pictures replace it rather than modulate it; projectiles
+// and sparks bring colours of their own.
 void Draw_Effects() {
   Set_DrawMode(41);
   Blend_Glow();
+  bool replace = Replace_On();
   for (int i = 0; i < 2; ++i)
     if (fighters[i].action == kChargeAction)
       Draw_FighterFloorQuad(i, SLOT_CHARGE_FLASH + frame_count % kChargeFrames, kChargeSize);
   run_hit_effects();
+  Replace_Off(replace);
   run_projectiles();
   run_sparks();
+  replace = Replace_On();
   run_part_effects();
+  Replace_Off(replace);
 }
 
 void Run_GlowRing() {

@@ -68,7 +68,9 @@ void own(int sprite, int x, int y, int w, int h, Orient orient) {
   if (!valid(sprite)) return;
   ScreenVertex* q = Sprites.Raster_Quad[sprite];
   place(q, x, y, w, h, orient);
+  const bool replace = Replace_On();  // drawn in the current colour
   draw_quad(sprite, q, Emit_Tri);
+  Replace_Off(replace);
 }
 
 void scratch_colour(std::uint16_t r, std::uint16_t g, std::uint16_t b, std::uint16_t a) {

@@ -166,7 +166,9 @@ void Draw_Stage() {
     const int level = frame_count % 16 == 0 ? kSuperShadeBright : kSuperShadeDim;
     Draw_RasterLShade(SUPER_SHADE_SPRITE, 0, 0, 320, 240, static_cast<std::uint16_t>(level));
   } else if (!f0.super_finish && !f1.super_finish) {
+    const bool replace = Replace_On();  // the arena is drawn in the current colour
     draw_arena();
+    Replace_Off(replace);
   } else {
     draw_super_picture(f0.super_finish ? SUPER_SPRITE_0 : SUPER_SPRITE_1);
   }

@@ -275,3 +275,51 @@ TEST_F(GlowBorder, ASeeThroughBorderIsLeftOutOnlyWhereItChangesNothing) {
 }
 
 }  // namespace
+
+namespace {
+
+// A picture drawn in the current colour takes its texels outright only while that colour is
+// opaque white: the screen shows what modulating by the colour shows, in white, in grey and
+// at part alpha.
+TEST_F(GlowBorder, TexelsAreTakenOutrightOnlyInOpaqueWhite) {
+  writers::ImageFile picture = bordered(2, 2, 13, 13, 200, 120, 40);
+  for (int i = 0; i < kSide * kSide; ++i) picture.pixels[i * 4 + 3] = static_cast<std::uint8_t>(i);
+  load("P.BMP", picture, 400);
+  Sprites.Raster_Slot[399] = 400;
+  Sprites.Raster_Width[399] = kSide;
+  Sprites.Raster_Height[399] = kSide;
+  Textures.Texture_Count = 401;
+
+  // The same picture in the current colour (plain call) and in a colour the call sets itself.
+  const auto pair = [](std::uint8_t level, std::uint8_t alpha) {
+    Clear_Screen(30, 60, 90);
+    Clear_Depth();
+    SpriteDraw.Layer_Z = 511.0f;
+    glColor4ub(level, level, level, alpha);
+    Draw_RasterLStretch(399, 10, 10, 80, 80);  // ten pixels a texel
+    glColor4ub(255, 255, 255, 255);
+    if (alpha == 255)
+      Draw_RasterLTint(399, 160, 10, 80, 80, level);
+    else
+      Draw_RasterLFade(399, 160, 10, 80, 80, level);
+    SpriteDraw.Layer_Z = 0.0f;
+    return screen();
+  };
+  struct Case {
+    std::uint8_t level, alpha;
+  };
+  for (const Case c : {Case{255, 255}, Case{128, 255}, Case{255, 255}, Case{128, 128}}) {
+    const std::vector<std::uint8_t> s = pair(c.level, c.alpha);
+    int differing = 0;
+    for (int y = 8; y < 152; ++y)
+      for (int x = 8; x < 152; ++x)
+        for (int k = 0; k < 3; ++k) differing += at(s, x, y)[k] != at(s, x + 240, y)[k];
+    EXPECT_EQ(differing, 0) << "level " << int(c.level) << " alpha " << int(c.alpha);
+    EXPECT_NE(at(s, 96, 96)[0], 30);  // the picture is there
+  }
+  GLint mode = 0;
+  glGetTexEnviv(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, &mode);
+  EXPECT_EQ(mode, GL_MODULATE);  // and modulating is back after each call
+}
+
+}  // namespace
