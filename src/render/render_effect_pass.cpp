@@ -264,9 +264,8 @@ constexpr float kChargeSize = 15.0f;
 
 }  // namespace
 
-// The flashes, hit effects and body-part effects are drawn in the current colour, opaque
-// white through a fight, so their pictures replace it rather than modulate it; projectiles
-// and sparks bring colours of their own.
+// Everything but the sparks is drawn in the current colour, opaque white through a fight, so
+// the pictures replace it rather than modulate it; the sparks bring greys of their own.
 void Draw_Effects() {
   Set_DrawMode(41);
   Blend_Glow();
@@ -275,8 +274,8 @@ void Draw_Effects() {
     if (fighters[i].action == kChargeAction)
       Draw_FighterFloorQuad(i, SLOT_CHARGE_FLASH + frame_count % kChargeFrames, kChargeSize);
   run_hit_effects();
-  Replace_Off(replace);
   run_projectiles();
+  Replace_Off(replace);
   run_sparks();
   replace = Replace_On();
   run_part_effects();
