@@ -31,6 +31,9 @@ struct TextureTable {
   // unknown; left and right together 1 when the whole picture is border). Written by
   // Load_TextureSlot.
   float Glow_Border[TEXTURE_SLOTS][4];
+  // Per slot, the border of texels at zero alpha, which a normally blended draw leaves
+  // unchanged, in the same form. Written by Load_TextureSlot.
+  float Clear_Border[TEXTURE_SLOTS][4];
   // Per slot, 1 when every texel of its picture is at full alpha (blending it over the picture
   // at full colour alpha just replaces what lies behind). Written by Load_TextureSlot.
   std::uint8_t Texture_Opaque[TEXTURE_SLOTS];

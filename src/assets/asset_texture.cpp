@@ -38,40 +38,59 @@ bool inert(const std::uint8_t* px, int components) {
   return px[0] == 0 && px[1] == 0 && px[2] == 0 && (components != 4 || px[3] == 255);
 }
 
-// The last picture's border of inert texels, as fractions of its sides, left, top, right,
-// bottom; a picture with nothing but inert texels has its whole width as its left border.
+// A texel at zero alpha leaves the screen unchanged under normal blending.
+bool clear(const std::uint8_t* px, int components) { return components == 4 && px[3] == 0; }
+
+// The last picture's border of inert texels, and its border of clear texels, as fractions of
+// its sides, left, top, right, bottom; a picture with nothing but such texels has its whole
+// width as its left border.
 float LastBorder[4] = {};
+float LastClearBorder[4] = {};
 bool LastOpaque = false;  // every texel of the last picture at full alpha
 
-void measure_border(const std::uint8_t* pixels, int w, int h, int components) {
-  for (float& b : LastBorder) b = 0.0f;
-  LastOpaque = false;
-  if (w <= 0 || h <= 0) return;
-  const int bytes = components == 4 ? 4 : 3;
-  int x0 = w, y0 = h, x1 = -1, y1 = -1;
-  bool opaque = true;
-  for (int y = 0; y < h; ++y)
-    for (int x = 0; x < w; ++x) {
-      const std::uint8_t* px = pixels + (static_cast<long>(y) * w + x) * bytes;
-      opaque = opaque && (components != 4 || px[3] == 255);
-      if (inert(px, components)) continue;
-      x0 = x < x0 ? x : x0;
-      x1 = x > x1 ? x : x1;
-      y0 = y < y0 ? y : y0;
-      y1 = y > y1 ? y : y1;
-    }
+// The box of kept texels from (x0, y0) to (x1, y1) inclusive (x1 < 0: none) as a border.
+void to_border(int x0, int y0, int x1, int y1, int w, int h, float* border) {
   if (x1 < 0) {  // all border
     x0 = w;
     x1 = w - 1;
     y0 = 0;
     y1 = h - 1;
   }
-  LastOpaque = opaque;
   const float fw = static_cast<float>(w), fh = static_cast<float>(h);
-  LastBorder[0] = static_cast<float>(x0) / fw;
-  LastBorder[1] = static_cast<float>(y0) / fh;
-  LastBorder[2] = static_cast<float>(w - 1 - x1) / fw;
-  LastBorder[3] = static_cast<float>(h - 1 - y1) / fh;
+  border[0] = static_cast<float>(x0) / fw;
+  border[1] = static_cast<float>(y0) / fh;
+  border[2] = static_cast<float>(w - 1 - x1) / fw;
+  border[3] = static_cast<float>(h - 1 - y1) / fh;
+}
+
+struct Box {
+  int x0, y0, x1, y1;
+  void take(int x, int y) {
+    x0 = x < x0 ? x : x0;
+    x1 = x > x1 ? x : x1;
+    y0 = y < y0 ? y : y0;
+    y1 = y > y1 ? y : y1;
+  }
+};
+
+void measure_border(const std::uint8_t* pixels, int w, int h, int components) {
+  for (float& b : LastBorder) b = 0.0f;
+  for (float& b : LastClearBorder) b = 0.0f;
+  LastOpaque = false;
+  if (w <= 0 || h <= 0) return;
+  const int bytes = components == 4 ? 4 : 3;
+  Box lit = {w, h, -1, -1}, seen = {w, h, -1, -1};
+  bool opaque = true;
+  for (int y = 0; y < h; ++y)
+    for (int x = 0; x < w; ++x) {
+      const std::uint8_t* px = pixels + (static_cast<long>(y) * w + x) * bytes;
+      opaque = opaque && (components != 4 || px[3] == 255);
+      if (!inert(px, components)) lit.take(x, y);
+      if (!clear(px, components)) seen.take(x, y);
+    }
+  LastOpaque = opaque;
+  to_border(lit.x0, lit.y0, lit.x1, lit.y1, w, h, LastBorder);
+  to_border(seen.x0, seen.y0, seen.x1, seen.y1, w, h, LastClearBorder);
 }
 
 }  // namespace
@@ -103,6 +122,7 @@ bool Load_TextureSlot(const char* name, int slot) {
     Textures.Texture_Width = width;
     Textures.Texture_Height = height;
     for (int k = 0; k < 4; ++k) Textures.Glow_Border[slot][k] = ok ? LastBorder[k] : 0.0f;
+    for (int k = 0; k < 4; ++k) Textures.Clear_Border[slot][k] = ok ? LastClearBorder[k] : 0.0f;
     Textures.Texture_Opaque[slot] = ok && LastOpaque ? 1 : 0;
   }
   if (!ok) {
@@ -121,6 +141,7 @@ bool Load_TextureSlot(const char* name, int slot) {
 void Reset_Textures() {
   std::memset(Textures.TextureFile, 0, sizeof Textures.TextureFile);
   std::memset(Textures.Glow_Border, 0, sizeof Textures.Glow_Border);
+  std::memset(Textures.Clear_Border, 0, sizeof Textures.Clear_Border);
   std::memset(Textures.Texture_Opaque, 0, sizeof Textures.Texture_Opaque);
   glFlush();
   const int used = Textures.Texture_Count < TEXTURE_SLOTS ? Textures.Texture_Count : TEXTURE_SLOTS;

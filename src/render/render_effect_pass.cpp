@@ -264,16 +264,22 @@ constexpr float kChargeSize = 15.0f;
 
 }  // namespace
 
+// Everything but the sparks is drawn in the current colour, opaque white through a fight, so
+// the pictures replace it rather than modulate it; the sparks bring greys of their own.
 void Draw_Effects() {
   Set_DrawMode(41);
   Blend_Glow();
+  bool replace = Replace_On();
   for (int i = 0; i < 2; ++i)
     if (fighters[i].action == kChargeAction)
       Draw_FighterFloorQuad(i, SLOT_CHARGE_FLASH + frame_count % kChargeFrames, kChargeSize);
   run_hit_effects();
   run_projectiles();
+  Replace_Off(replace);
   run_sparks();
+  replace = Replace_On();
   run_part_effects();
+  Replace_Off(replace);
 }
 
 void Run_GlowRing() {

@@ -58,8 +58,10 @@ void emit_quad(const ScreenVertex* q, Emitter emit) {
 // the depth buffer as before, but only the part of the screen under the rest of the picture is
 // coloured, which saves most of the cost of the flip-books' wide black margins.
 void emit_glow_quad(const ScreenVertex* q, int slot, Emitter emit) {
+  const bool add = Glow_AddOn(slot);
   if (!Glow_WorthCutting(slot)) {
     emit_quad(q, emit);
+    Glow_AddOff(add);
     return;
   }
   glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);  // depth only: nothing to sample or blend
@@ -71,6 +73,7 @@ void emit_glow_quad(const ScreenVertex* q, int slot, Emitter emit) {
   glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
   if (Glow_ScissorOn(q, slot)) emit_quad(q, emit);
   Glow_ScissorOff();
+  Glow_AddOff(add);
 }
 
 // A camera-facing square of side `size` about the world point (x, y, z); false when the point

@@ -179,7 +179,9 @@ void Draw_Mesh(int player) {
   glTexCoordPointer(2, GL_FLOAT, 0, Scratch.uv);
   glShadeModel(GL_SMOOTH);
   const bool solid = set_colour(player);
+  const bool replace = Replace_On();  // skins in opaque white show their texels as they are
   send_faces(player, false, solid);
+  Replace_Off(replace);
   glColor4ub(255, 255, 255, 255);
   glShadeModel(GL_FLAT);
   Run_ImpactTimer();

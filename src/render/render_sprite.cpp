@@ -8,6 +8,7 @@
 #include <cstdlib>
 
 #include "render/render_stage.h"
+#include "render/render_state.h"
 
 SpriteDrawState SpriteDraw;
 
@@ -46,13 +47,18 @@ void place(ScreenVertex* q, int x, int y, int w, int h, Orient orient) {
 
 using Emitter = void (*)(const ScreenVertex&, const ScreenVertex&, const ScreenVertex&);
 
+bool clear_cut_on(const ScreenVertex* q, int slot);
+
 // Binds the sprite's texture and draws the quad as triangles (2, 3, 0) and (2, 0, 1).
 void draw_quad(int sprite, const ScreenVertex* q, Emitter emit) {
-  glBindTexture(GL_TEXTURE_2D, Textures.TextureId[Sprites.Raster_Slot[sprite]]);
+  const int slot = Sprites.Raster_Slot[sprite];
+  glBindTexture(GL_TEXTURE_2D, Textures.TextureId[slot]);
+  const bool cut = clear_cut_on(q, slot);
   glBegin(GL_TRIANGLES);
   emit(q[2], q[3], q[0]);
   emit(q[2], q[0], q[1]);
   glEnd();
+  if (cut) glDisable(GL_SCISSOR_TEST);
 }
 
 bool valid(int sprite) { return sprite >= 0 && sprite < SPRITE_COUNT; }
@@ -62,7 +68,9 @@ void own(int sprite, int x, int y, int w, int h, Orient orient) {
   if (!valid(sprite)) return;
   ScreenVertex* q = Sprites.Raster_Quad[sprite];
   place(q, x, y, w, h, orient);
+  const bool replace = Replace_On();  // drawn in the current colour
   draw_quad(sprite, q, Emit_Tri);
+  Replace_Off(replace);
 }
 
 void scratch_colour(std::uint16_t r, std::uint16_t g, std::uint16_t b, std::uint16_t a) {
@@ -103,15 +111,44 @@ bool has_border(const float* border) {
 
 }  // namespace
 
+namespace {
+
+bool scissor_inside(const ScreenVertex* q, const float* border);
+
+// Under normal blending a texel at zero alpha leaves the screen as it is, and with the depth
+// test off nothing else is written: a picture drawn so need only be filled inside its border
+// of clear texels. Turns the scissor test on around that part and says whether it did (never
+// under a scissor already set, nor for a square whose texture corners are not the usual ones).
+bool clear_cut_on(const ScreenVertex* q, int slot) {
+  if (slot < 0 || slot >= TEXTURE_SLOTS || !has_border(Textures.Clear_Border[slot])) return false;
+  if (q[0].s != 0.0f || q[1].s != 1.0f || q[0].t != 0.0f || q[3].t != 1.0f) return false;
+  if (glIsEnabled(GL_DEPTH_TEST) || glIsEnabled(GL_SCISSOR_TEST) || !glIsEnabled(GL_BLEND))
+    return false;
+  GLint src = 0, dst = 0;
+  glGetIntegerv(GL_BLEND_SRC, &src);
+  glGetIntegerv(GL_BLEND_DST, &dst);
+  if (src != GL_SRC_ALPHA || dst != GL_ONE_MINUS_SRC_ALPHA) return false;
+  if (scissor_inside(q, Textures.Clear_Border[slot])) return true;
+  // Nothing but clear texels: an empty scissor box draws nothing.
+  glEnable(GL_SCISSOR_TEST);
+  glScissor(0, 0, 0, 0);
+  return true;
+}
+
+}  // namespace
+
 bool Glow_WorthCutting(int slot) {
   if (slot < 0 || slot >= TEXTURE_SLOTS) return false;
   const float* border = Textures.Glow_Border[slot];
   return (1.0f - border[0] - border[2]) * (1.0f - border[1] - border[3]) <= kWorthCutting;
 }
 
-bool Glow_ScissorOn(const ScreenVertex* q, int slot) {
-  if (slot < 0 || slot >= TEXTURE_SLOTS || !has_border(Textures.Glow_Border[slot])) return true;
-  const float* border = Textures.Glow_Border[slot];
+namespace {
+
+// Turns the scissor test on around the part of a flat square (corners in order, texture
+// coordinates 0 to 1 across them) that the texels inside `border` fall on; false when the
+// border is the whole picture.
+bool scissor_inside(const ScreenVertex* q, const float* border) {
   const float s0 = border[0], t0 = border[1], s1 = 1.0f - border[2], t1 = 1.0f - border[3];
   if (!(s0 < s1 && t0 < t1)) return false;
   // Where the kept texels fall on the square (mirrored or turned squares included).
@@ -132,7 +169,31 @@ bool Glow_ScissorOn(const ScreenVertex* q, int slot) {
   return true;
 }
 
+}  // namespace
+
+bool Glow_ScissorOn(const ScreenVertex* q, int slot) {
+  if (slot < 0 || slot >= TEXTURE_SLOTS || !has_border(Textures.Glow_Border[slot])) return true;
+  return scissor_inside(q, Textures.Glow_Border[slot]);
+}
+
 void Glow_ScissorOff() { glDisable(GL_SCISSOR_TEST); }
+
+bool Glow_AddOn(int slot) {
+  if (slot < 0 || slot >= TEXTURE_SLOTS || Textures.Texture_Opaque[slot] != 1) return false;
+  GLint src = 0, dst = 0;
+  glGetIntegerv(GL_BLEND_SRC, &src);
+  glGetIntegerv(GL_BLEND_DST, &dst);
+  if (src != GL_SRC_ALPHA || dst != GL_SRC_ALPHA) return false;
+  GLfloat colour[4];
+  glGetFloatv(GL_CURRENT_COLOR, colour);
+  if (colour[3] != 1.0f) return false;
+  glBlendFunc(GL_ONE, GL_ONE);
+  return true;
+}
+
+void Glow_AddOff(bool was_on) {
+  if (was_on) Blend_Glow();
+}
 
 // ---- emitters ----------------------------------------------------------------------------
 void Emit_Tri(const ScreenVertex& a, const ScreenVertex& b, const ScreenVertex& c) {
@@ -231,8 +292,11 @@ void Draw_RasterLGlow(int s, int x, int y, int w, int h, std::uint16_t level) {
   ScreenVertex* q = SpriteDraw.Scratch_Quad;
   for (int k = 0; k < 4; ++k) q[k].r = q[k].g = q[k].b = level;
   place(q, Layout(x), Layout(y), Layout(w), Layout(h), Orient::AsStored);
-  if (Glow_ScissorOn(q, Sprites.Raster_Slot[s])) draw_quad(s, q, Emit_TriTint);
+  const int slot = Sprites.Raster_Slot[s];
+  const bool add = Glow_AddOn(slot);
+  if (Glow_ScissorOn(q, slot)) draw_quad(s, q, Emit_TriTint);
   Glow_ScissorOff();
+  Glow_AddOff(add);
 }
 void Draw_RasterLFade(int s, int x, int y, int w, int h, std::uint16_t level) {
   scratch_colour(level, level, level, level);

@@ -28,6 +28,12 @@ extern SpriteDrawState SpriteDraw;
 bool Glow_WorthCutting(int slot);
 bool Glow_ScissorOn(const ScreenVertex* q, int slot);
 void Glow_ScissorOff();
+// Under glow blending a picture with every texel at full alpha, drawn in a colour at full
+// alpha, simply adds its colour to what lies behind: Glow_AddOn switches to that plain sum
+// (the same pixels, less work per pixel) and says whether it did; Glow_AddOff(true) returns
+// to glow blending.
+bool Glow_AddOn(int slot);
+void Glow_AddOff(bool was_on);
 
 // Layout space (320 x 240) to screen (512 x 384): times 1.6, truncated toward zero.
 int Layout(int v);

@@ -105,3 +105,7 @@ struct BackdropBase {
   float bx, by, bZ;
 };
 BackdropBase Backdrop_Base();
+// The strip, where it closes the screen from edge to edge: false when it leaves a gap at a
+// side (or stands behind the eye); else true with `bottom`, the screen row its lower edge lies
+// on (everything above it is strip; the top edge never lies below the screen top).
+bool Backdrop_Cover(const BackdropBase& base, int* bottom);

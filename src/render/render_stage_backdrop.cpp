@@ -19,6 +19,7 @@ constexpr float kScrollPerUnit = 0.35f;
 constexpr float kBaseX = 0.33f * BACKDROP_WIDTH, kBaseY = -6.1f, kBaseZ = 0.58f * 80.0f;
 constexpr float kTopRise = 0.33f * 130.0f - 6.1f;  // the top row's height in the strip
 constexpr float kColumnP = 0.67f * BACKDROP_WIDTH;
+constexpr float kScreenWidth = 512.0f;
 constexpr int kCorner[4][2] = {{0, 0}, {1, 0}, {1, 1}, {0, 1}};  // texture corner per panel corner
 
 BackdropBase Base;  // the strip's base of the frame, computed by Draw_Backdrop
@@ -65,6 +66,29 @@ BackdropBase Backdrop_Base() {
   Mat_Apply(&b, kBaseX, kBaseY, kBaseZ, &base.bx, &base.by, &base.bZ);
   base.bx = -f;
   return base;
+}
+
+bool Backdrop_Cover(const BackdropBase& b, int* bottom) {
+  if (!(b.bZ > 0.0f)) return false;
+  const float stretch = stretch_of(b);
+  // Each copy's left and right edges exactly as Draw_BackdropAt places them.
+  const auto edge = [&](float dx, int k) {
+    int sx = 0, sy = 0;
+    project(b.bx + dx + Stage.backdrop[k][0], b.by, b.bZ, &sx, &sy);
+    return stretch != 1.0f ? static_cast<int>(static_cast<float>(sx) * stretch) : sx;
+  };
+  constexpr float kCopies[5] = {-2.0f, -1.0f, 0.0f, 1.0f, 2.0f};
+  int right = 0;
+  for (int c = 0; c < 5; ++c) {
+    const float dx = kCopies[c] * BACKDROP_WIDTH;
+    const int left = edge(dx, 0);
+    if (c == 0 ? left > 0 : left > right) return false;  // a gap before this copy
+    right = edge(dx, 3);
+  }
+  if (right < static_cast<int>(kScreenWidth)) return false;
+  int sx = 0;
+  project(b.bx, b.by, b.bZ, &sx, bottom);
+  return true;
 }
 
 void Draw_BackdropAt(float dx) {

@@ -2,6 +2,9 @@
 // light pool, backdrop strip) or a super-move backdrop in its place.
 #include <GL/gl.h>
 
+#include <algorithm>
+#include <cmath>
+
 #include "camera/camera_fight.h"
 #include "fight/fight_state.h"
 #include "render/render_effect.h"
@@ -15,6 +18,7 @@ namespace {
 constexpr int kFlashDarkFrom = 2, kFlashDarkTo = 5;
 constexpr int kFullLight = 255;
 constexpr int kSuperShadeBright = 128, kSuperShadeDim = 64;
+constexpr float kScreenHeight = 384.0f;  // the picture space's height
 
 void bind_slot(std::int32_t slot) {
   if (slot >= 0 && slot < TEXTURE_SLOTS) glBindTexture(GL_TEXTURE_2D, Textures.TextureId[slot]);
@@ -55,14 +59,36 @@ bool backdrop_opaque() {
   return true;
 }
 
+// An opaque backdrop strip drawn over the floor at the floor's own depth replaces every pixel
+// it covers, so the floor (and its light pool) need only be filled below the strip's lower
+// edge. Turns the scissor test on around that part of the screen and says whether it did.
+// The light pool steps the camera shake before the strip is placed: while it shakes, the
+// strip's place is not known yet and the floor is filled whole.
+bool floor_cut_on() {
+  if (Stage.Stage_Light == 1 && Shake.Shake_Index > 0) return false;
+  int bottom = 0;
+  if (!Backdrop_Cover(Backdrop_Base(), &bottom)) return false;
+  GLint view[4];
+  glGetIntegerv(GL_VIEWPORT, view);
+  const float ky = static_cast<float>(view[3]) / kScreenHeight;
+  // Window rows count up from the bottom; a row of margin keeps the row the edge crosses.
+  const float edge = static_cast<float>(view[1]) + (kScreenHeight - static_cast<float>(bottom)) * ky;
+  const int rows = std::max(0, static_cast<int>(std::ceil(edge)) + 1);
+  glEnable(GL_SCISSOR_TEST);
+  glScissor(0, 0, view[0] + view[2] + 1, rows);
+  return true;
+}
+
 // The floor and the backdrop (most of the screen) are drawn without blending when their
 // pictures have no alpha channel; the light pool between them always blends.
 void draw_arena() {
   const bool floor_opaque = without_alpha(Stage.floor_slot);
   const bool backdrop_solid = backdrop_opaque();
+  const bool cut = backdrop_solid && floor_cut_on();
   if (floor_opaque) glDisable(GL_BLEND);
   Set_DrawMode(200);
   Draw_Floor();  // blending is back on for its light pool
+  if (cut) glDisable(GL_SCISSOR_TEST);
   if (backdrop_solid) glDisable(GL_BLEND);
   Set_DrawMode(8);
   Draw_Backdrop();
@@ -140,7 +166,9 @@ void Draw_Stage() {
     const int level = frame_count % 16 == 0 ? kSuperShadeBright : kSuperShadeDim;
     Draw_RasterLShade(SUPER_SHADE_SPRITE, 0, 0, 320, 240, static_cast<std::uint16_t>(level));
   } else if (!f0.super_finish && !f1.super_finish) {
+    const bool replace = Replace_On();  // the arena is drawn in the current colour
     draw_arena();
+    Replace_Off(replace);
   } else {
     draw_super_picture(f0.super_finish ? SUPER_SPRITE_0 : SUPER_SPRITE_1);
   }

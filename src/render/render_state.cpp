@@ -19,6 +19,19 @@ void Clear_Depth() { glClear(GL_DEPTH_BUFFER_BIT); }
 void Blend_Normal() { glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA); }
 void Blend_Glow() { glBlendFunc(GL_SRC_ALPHA, GL_SRC_ALPHA); }
 
+bool Replace_On() {
+  GLfloat colour[4];
+  glGetFloatv(GL_CURRENT_COLOR, colour);
+  if (colour[0] != 1.0f || colour[1] != 1.0f || colour[2] != 1.0f || colour[3] != 1.0f)
+    return false;
+  glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_REPLACE);
+  return true;
+}
+
+void Replace_Off(bool was_on) {
+  if (was_on) glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_MODULATE);
+}
+
 void Set_DrawMode(int code) {
   if ((code & 1) == 0) Blend_Normal();
 }

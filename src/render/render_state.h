@@ -13,5 +13,12 @@ void Clear_Depth();
 // the source alpha).
 void Blend_Normal();
 void Blend_Glow();
+// The texture modulates the current colour; while that colour is opaque white the product is
+// the texel itself, which the rasteriser computes with less work per pixel when told to take
+// the texel outright. Replace_On does so when the current colour is opaque white (to be called
+// outside glBegin/glEnd, before draws that set no colour) and says whether it did;
+// Replace_Off(true) goes back to modulating.
+bool Replace_On();
+void Replace_Off(bool was_on);
 // A drawing pass's mode code: bit 0 clear selects normal blending; set keeps the current one.
 void Set_DrawMode(int code);

@@ -6,6 +6,11 @@
 
 #include "assets/loader_harness.h"
 #include "render/render_fighter_fixture.h"
+#include "platform/headless/headless.h"
+#include "render/render_state.h"
+#include "render/render_effect.h"
+#include "render/render_sprite.h"
+#include "support/test_support.h"
 
 namespace {
 
@@ -151,6 +156,120 @@ TEST_F(StageLoadTest, StageOfTheFighterInOrderOrAMissingPanelEndsTheGame) {
   EXPECT_FLOAT_EQ(Stage.floor.v[63].x, 35.0f);
   EXPECT_FLOAT_EQ(Stage.light.v[0].z, -70.0f);
   EXPECT_EQ(Stage.floor.tri[97][0], 54);
+}
+
+}  // namespace
+
+namespace {
+
+// The floor under the painted strip: the arena drawn in one pass shows exactly what the floor
+// filled whole and then the strip over it show, whether or not the strip closes the screen.
+class StageCover : public test::TempDirTest {
+ protected:
+  void SetUp() override {
+    TempDirTest::SetUp();
+    test::ensure_gl();
+    Build_SinCosTables();
+    Build_AngleTables();
+    Reset_Textures();
+    FightCamera = FightCameraState{};
+    Shake.Shake_Index = 0;
+    Match = MatchState{};
+    static const Fighter kBlank{};
+    fighters[0] = kBlank;
+    fighters[1] = kBlank;
+    Effects = EffectState{};
+    // A floor of stripes that change every texel, and three plain-coloured panels.
+    writers::ImageFile floor{16, 16, 3, writers::Bytes(16 * 16 * 3)};
+    for (int i = 0; i < 16 * 16; ++i) {
+      floor.pixels[i * 3] = static_cast<std::uint8_t>(40 + 12 * (i % 16));
+      floor.pixels[i * 3 + 1] = static_cast<std::uint8_t>(200 - 9 * (i / 16));
+      floor.pixels[i * 3 + 2] = 7;
+    }
+    ASSERT_TRUE(writers::Write_Image("F.BMP", floor));
+    const char* names[3] = {"B1.BMP", "B2.BMP", "B3.BMP"};
+    for (int p = 0; p < 3; ++p) {
+      writers::ImageFile panel{4, 4, 3, writers::Bytes(4 * 4 * 3, static_cast<std::uint8_t>(250 - 60 * p))};
+      ASSERT_TRUE(writers::Write_Image(names[p], panel));
+    }
+    Load_Floor("F.BMP");
+    Load_Backdrop(names[0], names[1], names[2]);
+    Stage.Stage_Light = 0;
+  }
+  void TearDown() override {
+    Reset_Textures();
+    TempDirTest::TearDown();
+  }
+  static std::vector<std::uint8_t> screen() {
+    Swap_Buffers();
+    const std::uint8_t* p = Headless_Pixels();
+    return {p, p + HEADLESS_WIDTH * HEADLESS_HEIGHT * 4};
+  }
+  // The floor whole, then the five copies of the strip over it.
+  static std::vector<std::uint8_t> floor_then_strip() {
+    Clear_Screen(0, 0, 255);
+    Clear_Depth();
+    Set_View();
+    SpriteDraw.Layer_Z = STAGE_LAYER_Z;
+    glDisable(GL_BLEND);
+    Draw_Floor();
+    glDisable(GL_BLEND);
+    Draw_Backdrop();
+    for (float dx : {-1.0f, 1.0f, -2.0f, 2.0f}) Draw_BackdropAt(dx * BACKDROP_WIDTH);
+    glEnable(GL_BLEND);
+    SpriteDraw.Layer_Z = 0.0f;
+    return screen();
+  }
+  static std::vector<std::uint8_t> stage() {
+    Clear_Screen(0, 0, 255);
+    Clear_Depth();
+    Draw_Stage();
+    return screen();
+  }
+};
+
+TEST_F(StageCover, TheFloorUnderTheStripIsLeftOutWithoutChangingThePicture) {
+  struct Pose {
+    int pitch, heading;
+    float look_x, look_y, distance;
+  };
+  const Pose poses[] = {
+      {8, 180, 0.0f, 0.0f, 15.0f},     // a fight's usual view
+      {20, 100, 37.0f, 2.0f, 11.0f},   // looking down, turned
+      {2, 250, -55.0f, -1.0f, 25.0f},  // low and far
+      {45, 10, 12.0f, 0.0f, 30.0f},    // steep: the strip stretched
+      {350, 180, 0.0f, 4.0f, 8.0f},    // looking up
+  };
+  int covered = 0, floor_shown = 0;
+  for (const Pose& p : poses) {
+    FightCamera.pitch = p.pitch;
+    FightCamera.heading = p.heading;
+    FightCamera.look_x = p.look_x;
+    FightCamera.look_y = p.look_y;
+    FightCamera.distance = p.distance;
+    const std::vector<std::uint8_t> whole = floor_then_strip();
+    const std::vector<std::uint8_t> drawn = stage();
+    int bottom = 0;
+    Set_View();
+    covered += Backdrop_Cover(Backdrop_Base(), &bottom);
+    for (std::size_t i = 0; i < whole.size(); i += 4) floor_shown += whole[i + 2] == 7;
+    int differing = 0;
+    for (std::size_t i = 0; i < whole.size(); ++i) differing += whole[i] != drawn[i];
+    EXPECT_EQ(differing, 0) << "pitch " << p.pitch << " heading " << p.heading;
+  }
+  EXPECT_GT(covered, 0);
+  EXPECT_GT(floor_shown, 1000);
+}
+
+// Copies of the strip that leave a gap at a screen side do not close the screen.
+TEST_F(StageCover, AStripThatMissesASideCoversNothing) {
+  int bottom = -1;
+  EXPECT_TRUE(Backdrop_Cover({-60.0f, -10.0f, 60.0f}, &bottom));
+  EXPECT_EQ(bottom, Project_Point(-60.0f, -10.0f, 60.0f).sy);
+  EXPECT_FALSE(Backdrop_Cover({-60.0f, -10.0f, 2000.0f}, &bottom));  // far: narrower than the screen
+  EXPECT_FALSE(Backdrop_Cover({-400.0f, -10.0f, 60.0f}, &bottom));   // ends short of the right side
+  EXPECT_FALSE(Backdrop_Cover({280.0f, -10.0f, 60.0f}, &bottom));    // starts right of the left side
+  EXPECT_FALSE(Backdrop_Cover({-60.0f, -10.0f, -5.0f}, &bottom));    // behind the eye
 }
 
 }  // namespace
