@@ -252,16 +252,17 @@ TEST_F(OwnMoves, EveryCharacterHasItsOwnGuardAndVictoryPoses) {
 }
 
 // The command slots the computer starts from 13 units or more and from 10 or more, by the
-// characters its routines play (slot = 4 x command + 2 for buttons 3/4 + 1 for buttons 1/3).
+// characters its routines play (slot = 4 x command + 2 for buttons 3/4 + 1 for buttons 1/3; the
+// computer's button 1 or 3 becomes 2 or 4 in stance 23, so its stance-23 presses are even slots).
 struct FarUse {
   std::vector<int> characters, from13, from10;
 };
 const FarUse kFarUse[] = {
-    {{0, 11, 14}, {13, 25}, {27, 21, 19, 5}},  {{1}, {13, 23}, {25, 1, 19, 7}},
-    {{2}, {25}, {15, 21, 13, 5, 3}},           {{3, 10}, {}, {15, 23, 13, 1}},
-    {{4}, {13}, {25, 27, 15, 19, 3}},          {{5}, {}, {27, 23, 31, 25, 1, 5}},
-    {{6}, {13, 25}, {15, 19, 23}},             {{7, 12}, {}, {27, 23, 15, 31, 13, 25, 3}},
-    {{8}, {}, {25, 23, 13, 31, 3}},            {{9, 13}, {15, 13}, {21, 25, 1}},
+    {{0, 11, 14}, {12, 24}, {27, 13, 20, 18, 4}},      {{1}, {13, 23}, {25, 1, 18, 0, 6}},
+    {{2}, {24, 25}, {15, 21, 12, 20, 13, 5, 2}},       {{3, 10}, {}, {15, 23, 12, 14, 0}},
+    {{4}, {12}, {13, 25, 27, 14, 26, 18, 3}},          {{5}, {}, {27, 23, 30, 24, 0, 4, 5}},
+    {{6}, {12, 13, 25}, {15, 19, 12, 22, 13, 5, 1, 2, 0}}, {{7, 12}, {}, {27, 23, 15, 31, 12, 24, 2, 3}},
+    {{8}, {}, {25, 23, 12, 24, 30, 2}},                {{9, 13}, {14, 12}, {13, 20, 12, 24, 23, 1}},
 };
 
 // Root-to-root distance at which fighter 0's strikes in `action` first touch a defender: the

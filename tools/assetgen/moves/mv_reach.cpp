@@ -86,6 +86,17 @@ int Mv_ReachBand(int character, int action) {
   return band;
 }
 
+bool Mv_IsFollowUp(int character, int action) {
+  static const bool tables = (build_move_tables(), true);
+  (void)tables;
+  if (character < 0 || character >= 15) return false;
+  for (const ChainLink& link : MoveTables.Chain_Table[character]) {
+    if (link.running == NO_LINK) break;
+    if (link.next == action && link.running != action && link.running < 340) return true;
+  }
+  return false;
+}
+
 float Mv_Reach(const Move& mv, int character) {
   fig::Skeleton skel;
   fig::Fig_BuildSkeleton(character, skel);

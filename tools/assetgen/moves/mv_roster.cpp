@@ -5,6 +5,7 @@
 // from being struck out of it.
 #include "moves/mv_roster.h"
 
+#include <algorithm>
 #include <cmath>
 #include <deque>
 
@@ -420,7 +421,8 @@ void Mv_CharacterMoves(int character, std::vector<Move>& out) {
   auto attack = [&](const Row& row) {
     Move mv = Build_Move(character, row.action, st, row);
     const int band = Mv_ReachBand(character, row.action);
-    const float target = band > 0 ? static_cast<float>(band) : kCloseReach;
+    float target = band > 0 ? static_cast<float>(band) : kCloseReach;
+    if (Mv_IsFollowUp(character, row.action)) target = std::max(target, kFollowReach);
     Mv_FitLine(mv, character, Keep);
     Mv_FitReach(mv, character, target);
     Stride_Lunge(mv, row.mirror);
