@@ -10,7 +10,7 @@ constexpr float kCloseReach = 5.5f;  // root to root: just past the 4.0 the figh
 
 // A follow-up starts as the blow before it lands, while the struck opponent reels away (and a
 // computer opponent backs off as soon as a move starts): it reaches this far.
-constexpr float kFollowReach = 8.5f;
+constexpr float kFollowReach = 10.0f;
 
 // True when the action follows another of the character's moves through a link.
 bool Mv_IsFollowUp(int character, int action);
