@@ -49,7 +49,7 @@ constexpr Style kStyles[15] = {
     {1.00f, 1.09f, false, A::VictoryBow,    A::VictoryPoint},  // 11
     {0.95f, 1.07f, false, A::VictoryHips,   A::VictoryStance},  // 12
     {1.10f, 1.18f, true,  A::VictoryBlade,  A::VictoryFist},  // 13
-    {1.05f, 1.20f, false, A::VictoryHips,   A::VictoryArms},  // 14
+    {0.95f, 1.20f, false, A::VictoryHips,   A::VictoryArms},  // 14
 };
 // clang-format on
 
