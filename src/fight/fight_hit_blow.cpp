@@ -289,7 +289,6 @@ void set_reaction(int fighter, int action) {
   if (in_list(kDowningReactions, action)) f.busy = 1;
 }
 
-long DbgGuarded[1000];
 void apply_blow(int attacker, int defender, int guard_class, int damage, int by_projectile) {
   Fighter& a = fighters[attacker];
   Fighter& d = fighters[defender];
@@ -315,7 +314,6 @@ void apply_blow(int attacker, int defender, int guard_class, int damage, int by_
     }
   }
 
-  if (guarded && !by_projectile && a.action >= 0 && a.action < 1000) ++DbgGuarded[a.action];
   int dealt = 0;
   bool held = false;     // thrown or held: the pair's motion goes on
   bool grabbed = false;  // this blow took hold (the hold has played the hit shout)

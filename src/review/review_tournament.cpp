@@ -21,8 +21,6 @@
 #include "render/render_math.h"
 #include "shell/shell.h"
 
-extern long DbgGuarded[1000];
-long DbgDist[1000][30];
 namespace {
 
 constexpr long ROUND_FRAME_LIMIT = 20000;  // a round whose clock never runs out ends here
@@ -134,7 +132,6 @@ void play_round(const int character[2], int level) {
       const int a = fighters[i].action;
       if (a != last[i] && a >= 0 && a < MAX_ACTIONS) ++T.tally[character[i]].usage[a];
       if (a != last[i]) since[i] = frames;
-      if (a != last[i] && a >= 0 && a < 1000) { int bk = (int)(Spacing.distance); if (bk > 29) bk = 29; ++DbgDist[a][bk]; }
       long& stay = T.tally[character[i]].stay[a >= 0 && a < MAX_ACTIONS ? a : 0];
       stay = std::max(stay, frames - since[i] + 1);
       last[i] = a;
@@ -161,10 +158,6 @@ void print_specials(int c) {
 }
 
 void print_results(int usage) {
-  for (int a : {37,38,39,40,180,181,188,210,211,216,217,240,241,242,290,522}) { std::printf("dist %d:", a); for (int k = 0; k < 30; ++k) std::printf(" %ld", DbgDist[a][k]); std::printf("\n"); }
-  std::printf("guarded");
-  for (int a = 0; a < 1000; ++a) if (DbgGuarded[a]) std::printf(" %d:%ld", a, DbgGuarded[a]);
-  std::printf("\n");
   for (int c = 0; c < CHARACTERS; ++c) {
     const Tally& t = T.tally[c];
     const long mean = t.rounds > 0 ? t.frames / t.rounds : 0;
