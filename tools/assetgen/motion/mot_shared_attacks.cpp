@@ -47,8 +47,8 @@ constexpr Pose kSideLowOut = With(kSideChamber, {{4, -14, 70, 0}, {3, -6, 4, 0},
                                                  {8, 16, -6, 6},    {9, 16, 0, 0}});
 // The low stance's spinning back kick with the rear leg.
 constexpr Pose kSpinLoad = Plus(kLow, {{4, 0, 70, 0}, {3, 0, 20, 0}, {2, 0, 20, 0}, {9, 10, 0, 0}});
-constexpr Pose kSpinOut = With(kLow, {{4, -20, 190, 0},   {3, -10, 0, 0},  {2, 10, 160, 0},
-                                      {8, -100, -170, 10}, {9, 4, 0, 0},    {10, 20, 0, 0},
+constexpr Pose kSpinOut = With(kLow, {{4, -8, 190, 0},    {3, -6, 0, 0},   {2, 8, 160, 0},
+                                      {8, -76, -170, 10}, {9, 4, 0, 0},    {10, 20, 0, 0},
                                       {14, -4, -10, -6},  {15, 14, 0, 0},  {11, -40, 0, -40}, {5, -40, 0, 40}});
 constexpr Pose kSpinHome = Plus(kLow, {{4, 0, 360, 0}});
 
@@ -167,8 +167,8 @@ constexpr fig::Vec3 Z(float z) { return {0, 0, z}; }
 constexpr Motion kMotions[] = {
     // Standing buttons 1..4; the low stance's 2 and 4.
     M("jab", 180, &kStance,
-      {P(&kJabLoad, 3, Ease::Out), Cue(P(&kJabOut, 4, Ease::Snap, Z(3.6f)), kCueLight), Hit(&kJabOut, 3, 13, kHitOpen),
-       Link(P(&kJabLoad, 5, Ease::InOut, Z(-1.2f))), Link(P(&kStance, 5))}),
+      {P(&kJabLoad, 3, Ease::Out), Cue(P(&kJabOut, 4, Ease::Snap, Z(5.0f)), kCueLight), Hit(&kJabOut, 3, 13, kHitOpen),
+       Link(P(&kJabLoad, 5, Ease::InOut, Z(-1.6f))), Link(P(&kStance, 5))}),
     M("cross", 240, &kStance,
       {P(&kCrossLoad, 4, Ease::Out), Cue(P(&kCrossOutOnLine, 4, Ease::Snap, Z(0.9f)), kCueSwing), Hit(&kCrossOutOnLine, 3, 7, kHitOpen),
        Link(P(&kCrossLoad, 6, Ease::InOut, Z(-0.9f))), P(&kStance, 6)}),
@@ -179,10 +179,10 @@ constexpr Motion kMotions[] = {
       {P(&kSideChamber, 8, Ease::Out, Z(2.6f)), Cue(P(&kSideLowOut, 5, Ease::Snap, Z(3.0f)), kCueHeavy),
        Hit(&kSideLowOut, 4, 16, kHitLowHeavy), P(&kSideChamber, 8, Ease::InOut, Z(-1.8f)), Link(P(&kStance, 10, Ease::InOut, Z(-1.8f)))}),
     M("palm_low", 241, &kLow,
-      {P(&kPalmLoad, 5, Ease::Out), Cue(P(&kPalmOutOnLine, 4, Ease::Snap, Z(4.6f)), kCueSwing), Hit(&kPalmOutOnLine, 4, 13, kHitHeavy),
-       Link(P(&kPalmLoad, 7, Ease::InOut, Z(-2.0f))), P(&kLow, 6)}),
+      {P(&kPalmLoad, 5, Ease::Out), Cue(P(&kPalmOutOnLine, 4, Ease::Snap, Z(6.4f)), kCueSwing), Hit(&kPalmOutOnLine, 4, 13, kHitHeavy),
+       Link(P(&kPalmLoad, 7, Ease::InOut, Z(-2.6f))), P(&kLow, 6)}),
     M("spin_kick_low", 242, &kLow,
-      {P(&kSpinLoad, 6, Ease::Out, Z(2.6f)), Cue(Plant(P(&kSpinOutOnLine, 7, Ease::Snap), 16), kCueHeavy),
+      {P(&kSpinLoad, 6, Ease::Out, Z(4.4f)), Cue(Plant(P(&kSpinOutOnLine, 7, Ease::Snap), 16), kCueHeavy),
        Hit(&kSpinOutOnLine, 4, 10, kHitHighHeavy), Plant(P(&kSpinHome, 10, Ease::InOut), 16), P(&kSpinHome, 4, Ease::Linear)}),
     // Crouching buttons 1, 3, 2, 4.
     M("crouch_jab", 37, &kCrouch,
@@ -202,13 +202,13 @@ constexpr Motion kMotions[] = {
       {P(&kLungeLoad, 5, Ease::Out), Cue(P(&kLungeOut, 5, Ease::Snap, Z(3.6f)), kCueSwing), Hit(&kLungeOut, 3, 13, kHitOpen),
        Link(P(&kJabLoad, 8, Ease::InOut, Z(-1.2f))), P(&kStance, 6)}),
     M("uppercut", 188, &kStance,
-      {P(&kUpperDip, 6, Ease::Out, Z(2.2f)), Cue(P(&kUpperOut, 5, Ease::Snap, Z(2.6f)), kCueHeavy),
+      {P(&kUpperDip, 6, Ease::Out, Z(3.2f)), Cue(P(&kUpperOut, 5, Ease::Snap, Z(3.6f)), kCueHeavy),
        Hit(&kUpperOut, 3, 7, kHitOpen), P(&kUpperOut, 5, Ease::Linear), Link(P(&kStance, 10, Ease::InOut, Z(-1.8f)))}),
     M("backfist", 189, &kStance,
       {P(&kBackfistLoad, 5, Ease::Out), Cue(P(&kBackfistOut, 4, Ease::Snap, Z(0.8f)), kCueSwing),
        Hit(&kBackfistOut, 3, 13, kHitOpen), Link(P(&kStance, 10, Ease::InOut, Z(-0.8f)))}),
     M("slide_kick", 211, &kStance,
-      {P(&kSlideLoad, 5, Ease::Out), Cue(P(&kSlideOut, 6, Ease::Out, Z(3.4f)), kCueFall), Hit(&kSlideOut, 5, 16, kHitLowHalf, Z(0.8f)),
+      {P(&kSlideLoad, 5, Ease::Out), Cue(P(&kSlideOut, 6, Ease::Out, Z(3.4f)), kCueFall), Hit(&kSlideOut, 5, 16, kHitLowHeavy, Z(0.8f)),
        Link(P(&kCrouch, 8, Ease::InOut, Z(-1.2f))), P(&kStance, 8)}),
     M("spinning_heel", 216, &kStance,
       {P(&kHeelLoad, 6, Ease::Out, Z(0.6f)), Cue(Plant(P(&kHeelOutOnLine, 7, Ease::Snap), 16), kCueHeavy),
