@@ -253,20 +253,21 @@ constexpr Motion kMotions[] = {
 };
 
 // The root-to-root distances each attack's strike reaches (the defender's front being about
-// 0.8 in front of its root once its boxes are widened).
+// 0.8 in front of its root once its boxes are widened). The computer throws its standing
+// blows from about ten units off, so those step in that far.
 constexpr Reach kReaches[] = {
-    {180, 5.0f, 6.8f},   // jab
+    {180, 9.5f, 12.0f},  // jab: a step in
     {240, 5.0f, 7.0f},   // cross
-    {210, 7.5f, 9.5f},   // high kick
-    {290, 9.0f, 11.0f},  // side thrust: the long poke
-    {241, 5.5f, 7.5f},   // palm in the low stance
-    {242, 8.0f, 10.5f},  // spinning back kick
+    {210, 9.0f, 11.5f},  // high kick
+    {290, 11.0f, 13.5f}, // stop kick: the long poke
+    {241, 11.0f, 13.5f}, // palm in the low stance, behind a long step
+    {242, 11.0f, 13.0f}, // spinning back kick
     {37, 4.5f, 6.5f},    // crouching jab
     {38, 6.0f, 8.5f},    // crouching kick
     {39, 4.5f, 7.0f},    // crouching punch
-    {40, 7.5f, 10.5f},   // sweep
-    {181, 7.0f, 9.0f},   // lunge punch
-    {188, 4.0f, 6.5f},   // uppercut
+    {40, 5.5f, 8.0f},     // sweep: from close in
+    {181, 7.0f, 11.0f},  // lunge punch
+    {188, 9.0f, 11.0f},  // uppercut
     {189, 5.0f, 7.0f},   // backfist
     {211, 9.5f, 12.0f},  // slide kick
     {216, 7.5f, 9.5f},   // spinning heel kick
