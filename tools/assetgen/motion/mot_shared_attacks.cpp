@@ -208,7 +208,7 @@ constexpr Motion kMotions[] = {
       {P(&kBackfistLoad, 5, Ease::Out), Cue(P(&kBackfistOut, 4, Ease::Snap, Z(0.8f)), kCueSwing),
        Hit(&kBackfistOut, 3, 13, kHitOpen), Link(P(&kStance, 10, Ease::InOut, Z(-0.8f)))}),
     M("slide_kick", 211, &kStance,
-      {P(&kSlideLoad, 5, Ease::Out), Cue(P(&kSlideOut, 6, Ease::Out, Z(3.4f)), kCueFall), Hit(&kSlideOut, 5, 16, kHitLowHeavy, Z(0.8f)),
+      {P(&kSlideLoad, 5, Ease::Out), Cue(P(&kSlideOut, 6, Ease::Out, Z(2.4f)), kCueFall), Hit(&kSlideOut, 5, 16, kHitLowHeavy, Z(0.8f)),
        Link(P(&kCrouch, 8, Ease::InOut, Z(-1.2f))), P(&kStance, 8)}),
     M("spinning_heel", 216, &kStance,
       {P(&kHeelLoad, 6, Ease::Out, Z(0.6f)), Cue(Plant(P(&kHeelOutOnLine, 7, Ease::Snap), 16), kCueHeavy),
