@@ -69,7 +69,7 @@ constexpr Row kRows[15][kMaxRows] = {
      {274, A::Grab, 12, 0, false}, {305, A::Rush, 35, 10, false}, {306, A::Uppercut, 20, 0, false},
      {307, A::HeelDrop, 11, 0, false}, {500, A::SuperRush, 435, 431, true}, {510, A::SuperSpin, 411, 431, true}},  // 0
     {{190, A::SuperPalms, 424, 0, false}, {192, A::TwinKick, 7, 11, false}, {201, A::FlyingKick, 11, 0, true},
-     {226, A::SpinKick, 11, 0, false}, {227, A::SuperSpin, 411, 431, false}, {228, A::Sweep, 12, 0, false},
+     {226, A::SpinKick, 11, 0, false}, {227, A::SuperSpin, 411, 431, false}, {228, A::Sweep, 9, 0, false},
      {266, A::SuperRush, 435, 432, true}, {268, A::Backfist, 10, 0, false}, {270, A::FlyingKnee, 10, 0, false},
      {271, A::HeelDrop, 11, 0, false}, {272, A::TwinKick, 7, 11, true}, {305, A::Rush, 35, 10, false},
      {306, A::SuperSpin, 411, 431, true}},  // 1
