@@ -181,6 +181,27 @@ TEST_F(OwnMoves, AttacksStrikeProjectilesLaunchAndHoldsStayInStep) {
   }
 }
 
+// A move another follows through a link shows the computer where it may press on (frames
+// marked 1) while its link window is still open; one without them is never followed by the
+// computer, however its link rows read.
+TEST_F(OwnMoves, EveryMoveThatLinksOnOffersItsLinkFrames) {
+  if (!real_shared_) GTEST_SKIP() << "needs the generated shared motions";
+  for (int c = 0; c < fig::kCharacters; ++c) {
+    SCOPED_TRACE(c);
+    Load_Character(c);
+    const Fighter& f = fighters[0];
+    std::set<int> checked;
+    for (const ChainLink& l : MoveTables.Chain_Table[c]) {
+      if (l.running == NO_LINK || !checked.insert(l.running).second) continue;
+      const int a = l.running;
+      bool offered = false;
+      for (int fr = f.act_first[a]; fr <= f.act_win_last[a] && fr <= f.act_last[a]; ++fr)
+        offered = offered || f.frame_part[fr] == 1;
+      EXPECT_TRUE(offered) << "action " << a << " (followed by " << l.next << ") has no link frames";
+    }
+  }
+}
+
 // Turns (rotation entries) are the same on every skeleton, so equal turn sequences mean the
 // same move.
 TEST_F(OwnMoves, NoTwoCharactersShareASpecialMove) {

@@ -203,7 +203,7 @@ constexpr Motion kMotions[] = {
        Link(P(&kJabLoad, 8, Ease::InOut, Z(-1.2f))), P(&kStance, 6)}),
     M("uppercut", 188, &kStance,
       {P(&kUpperDip, 6, Ease::Out, Z(3.2f)), Cue(P(&kUpperOut, 5, Ease::Snap, Z(3.6f)), kCueHeavy),
-       Hit(&kUpperOut, 3, 7, kHitOpen), P(&kUpperOut, 5, Ease::Linear), Link(P(&kStance, 10, Ease::InOut, Z(-1.8f)))}),
+       Hit(&kUpperOut, 3, 7, kHitOpen), Link(P(&kUpperOut, 5, Ease::Linear)), P(&kStance, 10, Ease::InOut, Z(-1.8f))}),
     M("backfist", 189, &kStance,
       {P(&kBackfistLoad, 5, Ease::Out), Cue(P(&kBackfistOut, 4, Ease::Snap, Z(0.8f)), kCueSwing),
        Hit(&kBackfistOut, 3, 13, kHitOpen), Link(P(&kStance, 10, Ease::InOut, Z(-0.8f)))}),

@@ -3,7 +3,8 @@
 // 35 multi-hit rush blows, 20 launchers, 8 and 11 high blows, 12 heavy low blows, 10 heavy
 // blows, 7 lighter mid blows (a few swings that a standing guard would stop almost every time
 // are mid blows instead, which a guard misses now and then), 24/25/42 projectiles, 31/32
-// unblockable finishers; class 4 keeps a super move's owner from being struck out of it.
+// unblockable finishers, 0 a seizing hand no guard stops (the super grabs that a guard would
+// otherwise turn aside); class 4 keeps a super move's owner from being struck out of it.
 #include "moves/mv_roster.h"
 
 #include <algorithm>
@@ -64,12 +65,12 @@ constexpr int kMaxRows = 20;
 // clang-format off
 constexpr Row kRows[15][kMaxRows] = {
     {{190, A::Straight, 10, 0, false}, {191, A::SuperRush, 435, 432, false}, {192, A::FlyingKick, 8, 0, false},
-     {197, A::SuperGrab, 410, 0, false}, {220, A::Grab, 10, 0, true}, {221, A::Charge, 410, 0, false},
-     {266, A::SuperSpin, 411, 431, false}, {267, A::SpinKick, 11, 0, false}, {273, A::SuperGrab, 410, 0, true},
+     {197, A::SuperGrab, 400, 0, false}, {220, A::Grab, 10, 0, true}, {221, A::Charge, 410, 0, false},
+     {266, A::SuperSpin, 411, 431, false}, {267, A::SpinKick, 11, 0, false}, {273, A::SuperGrab, 400, 0, true},
      {274, A::Grab, 12, 0, false}, {305, A::Rush, 35, 10, false}, {306, A::Uppercut, 20, 0, false},
      {307, A::HeelDrop, 11, 0, false}, {500, A::SuperRush, 435, 431, true}, {510, A::SuperSpin, 411, 431, true}},  // 0
     {{190, A::SuperPalms, 424, 0, false}, {192, A::TwinKick, 7, 11, false}, {201, A::FlyingKick, 11, 0, true},
-     {226, A::SpinKick, 11, 0, false}, {227, A::SuperSpin, 411, 431, false}, {228, A::Sweep, 12, 0, false},
+     {226, A::SpinKick, 11, 0, false}, {227, A::SuperSpin, 411, 431, false}, {228, A::Sweep, 9, 0, false},
      {266, A::SuperRush, 435, 432, true}, {268, A::Backfist, 10, 0, false}, {270, A::FlyingKnee, 10, 0, false},
      {271, A::HeelDrop, 11, 0, false}, {272, A::TwinKick, 7, 11, true}, {305, A::Rush, 35, 10, false},
      {306, A::SuperSpin, 411, 431, true}},  // 1
@@ -107,7 +108,7 @@ constexpr Row kRows[15][kMaxRows] = {
      {226, A::Straight, 10, 0, false}, {227, A::Rush, 35, 10, false}, {228, A::Uppercut, 20, 0, false},
      {266, A::SuperRush, 435, 432, false}, {273, A::SuperGrab, 410, 0, true}, {305, A::HeelDrop, 11, 0, false},
      {306, A::FlyingKnee, 10, 0, false}, {307, A::Sweep, 12, 0, false}},  // 8
-    {{190, A::Blades, 7, 10, false}, {191, A::SpinKick, 11, 0, false}, {197, A::SuperGrab, 410, 0, false},
+    {{190, A::Blades, 7, 10, false}, {191, A::SpinKick, 11, 0, false}, {197, A::SuperGrab, 400, 0, false},
      {220, A::Grab, 10, 0, false}, {221, A::SuperGrab, 410, 0, true}, {266, A::Backfist, 11, 0, false},
      {267, A::Blades, 8, 12, false}, {268, A::FlyingKick, 11, 0, false}, {269, A::SuperBlades, 407, 432, false},
      {270, A::Sweep, 12, 0, false}, {271, A::SuperSpin, 411, 431, false}, {305, A::Rush, 35, 10, false},
