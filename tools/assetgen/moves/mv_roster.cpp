@@ -39,18 +39,18 @@ constexpr Style kStyles[15] = {
     {1.00f, 1.00f, false, A::VictoryStance, A::VictoryBow},  // 0
     {0.85f, 0.95f, false, A::VictoryHips,   A::VictoryPoint},  // 1
     {1.00f, 1.05f, false, A::VictoryArms,   A::VictoryBow},  // 2
-    {0.90f, 0.97f, false, A::VictoryPoint,  A::VictoryArms},  // 3
-    {1.50f, 1.15f, false, A::VictoryFist,   A::VictoryHips},  // 4
+    {1.05f, 0.97f, false, A::VictoryPoint,  A::VictoryArms},  // 3
+    {1.70f, 1.15f, false, A::VictoryFist,   A::VictoryHips},  // 4
     {0.90f, 0.93f, true,  A::VictoryBlade,  A::VictoryHips},  // 5
     {0.90f, 0.98f, true,  A::VictoryBlade,  A::VictoryBow},  // 6
     {0.95f, 1.02f, false, A::VictoryStance, A::VictoryFist},  // 7
     {1.00f, 1.10f, false, A::VictoryArms,   A::VictoryFist},  // 8
     {0.85f, 1.03f, true,  A::VictoryBlade,  A::VictoryPoint},  // 9
-    {0.90f, 1.12f, false, A::VictoryPoint,  A::VictoryStance},  // 10
+    {0.80f, 1.12f, false, A::VictoryPoint,  A::VictoryStance},  // 10
     {1.00f, 1.09f, false, A::VictoryBow,    A::VictoryPoint},  // 11
     {0.95f, 1.07f, false, A::VictoryHips,   A::VictoryStance},  // 12
     {1.10f, 1.18f, true,  A::VictoryBlade,  A::VictoryFist},  // 13
-    {0.85f, 1.20f, false, A::VictoryHips,   A::VictoryArms},  // 14
+    {0.75f, 1.20f, false, A::VictoryHips,   A::VictoryArms},  // 14
 };
 // clang-format on
 
