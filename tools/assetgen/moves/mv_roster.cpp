@@ -40,7 +40,7 @@ constexpr Style kStyles[15] = {
     {0.85f, 0.95f, false, A::VictoryHips,   A::VictoryPoint},  // 1
     {1.00f, 1.05f, false, A::VictoryArms,   A::VictoryBow},  // 2
     {1.05f, 0.97f, false, A::VictoryPoint,  A::VictoryArms},  // 3
-    {1.70f, 1.15f, false, A::VictoryFist,   A::VictoryHips},  // 4
+    {1.30f, 1.15f, false, A::VictoryFist,   A::VictoryHips},  // 4
     {0.90f, 0.93f, true,  A::VictoryBlade,  A::VictoryHips},  // 5
     {0.90f, 0.98f, true,  A::VictoryBlade,  A::VictoryBow},  // 6
     {0.95f, 1.02f, false, A::VictoryStance, A::VictoryFist},  // 7
@@ -88,7 +88,8 @@ constexpr Row kRows[15][kMaxRows] = {
      {193, A::HeelDrop, 10, 0, false}, {194, A::FlyingKnee, 10, 0, false}, {195, A::TwinKick, 4, 8, false},
      {226, A::SuperSpin, 411, 431, false}, {227, A::SuperRush, 435, 432, false}, {266, A::Rush, 35, 10, false},
      {267, A::Backfist, 8, 0, true}, {268, A::Sweep, 12, 0, false}, {269, A::SpinKick, 11, 0, false},
-     {270, A::FlyingKick, 8, 0, false}, {273, A::SuperGrab, 410, 0, false}, {274, A::SuperGrab, 412, 0, true}},  // 4
+     {270, A::FlyingKick, 8, 0, false}, {273, A::SuperGrab, 410, 0, false}, {274, A::SuperGrab, 412, 0, true},
+     {211, A::Sweep, 12, 0, false}},  // 4
     {{190, A::Blades, 7, 10, false}, {191, A::SuperBlades, 407, 431, false}, {192, A::SpinKick, 11, 0, false},
      {193, A::Sweep, 12, 0, true}, {194, A::FlyingKick, 8, 0, false}, {195, A::TwinKick, 4, 8, false},
      {196, A::HeelDrop, 11, 0, false}, {226, A::Backfist, 7, 0, false}, {227, A::SuperSpin, 411, 431, false},
