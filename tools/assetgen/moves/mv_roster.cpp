@@ -39,7 +39,7 @@ constexpr Style kStyles[15] = {
     {1.00f, 1.00f, false, A::VictoryStance, A::VictoryBow},  // 0
     {0.85f, 0.95f, false, A::VictoryHips,   A::VictoryPoint},  // 1
     {1.00f, 1.05f, false, A::VictoryArms,   A::VictoryBow},  // 2
-    {1.05f, 0.97f, false, A::VictoryPoint,  A::VictoryArms},  // 3
+    {1.15f, 0.97f, false, A::VictoryPoint,  A::VictoryArms},  // 3
     {1.26f, 1.15f, false, A::VictoryFist,   A::VictoryHips},  // 4
     {0.90f, 0.93f, true,  A::VictoryBlade,  A::VictoryHips},  // 5
     {0.90f, 0.98f, true,  A::VictoryBlade,  A::VictoryBow},  // 6
