@@ -42,7 +42,7 @@ constexpr Style kStyles[15] = {
     {1.15f, 0.97f, false, A::VictoryPoint,  A::VictoryArms},  // 3
     {1.26f, 1.15f, false, A::VictoryFist,   A::VictoryHips},  // 4
     {0.90f, 0.93f, true,  A::VictoryBlade,  A::VictoryHips},  // 5
-    {0.90f, 0.98f, true,  A::VictoryBlade,  A::VictoryBow},  // 6
+    {0.85f, 0.98f, true,  A::VictoryBlade,  A::VictoryBow},  // 6
     {0.95f, 1.02f, false, A::VictoryStance, A::VictoryFist},  // 7
     {1.00f, 1.10f, false, A::VictoryArms,   A::VictoryFist},  // 8
     {0.85f, 1.03f, true,  A::VictoryBlade,  A::VictoryPoint},  // 9
