@@ -61,14 +61,19 @@ TEST(AssetgenMotion, KeyFramesStayInTheFileRanges) {
 }
 
 TEST(AssetgenMotion, MarksFollowTheirPhases) {
-  std::vector<BakedFrame> jab = Bake(*Mot_SharedByAction(180));
+  const Motion& jab_motion = *Mot_SharedByAction(180);
+  std::vector<BakedFrame> jab = Bake(jab_motion);
+  int code = 0;  // the strike's hit attribute, marked on its frames and on no other
+  for (int p = 0; p < jab_motion.phase_count; ++p)
+    if (jab_motion.phases[p].strike_part >= 2) code = jab_motion.phases[p].hit;
+  ASSERT_NE(code, 0);
   int runs = 0, cue_at = -1, first_strike = -1, links = 0;
   for (std::size_t f = 0; f < jab.size(); ++f) {
     if (jab[f].part >= 2 && (f == 0 || jab[f - 1].part != jab[f].part)) ++runs;
     if (jab[f].part >= 2 && first_strike < 0) first_strike = static_cast<int>(f);
     if (jab[f].part < 0) cue_at = static_cast<int>(f);
     links += jab[f].part == 1;
-    EXPECT_EQ(jab[f].hit, jab[f].part >= 2 ? 1 : 0);
+    EXPECT_EQ(jab[f].hit, jab[f].part >= 2 ? code : 0);
   }
   EXPECT_EQ(runs, 1);
   EXPECT_EQ(jab[first_strike].part, 13);  // the lead hand

@@ -15,11 +15,18 @@
 #include "assets/asset_anim.h"
 #include "assets/asset_table.h"
 #include "camera/camera_path.h"
+#include "cpu/cpu.h"
+#include "cpu/cpu_private.h"
+#include "fight/fight.h"
 #include "fight/fight_moves.h"
 #include "fight/fight_state.h"
 #include "figures/fig_figure.h"
 #include "figures/fig_roster.h"
+#include "input/input.h"
 #include "moves/mv_roster.h"
+#include "render/render_effect.h"
+#include "render/render_fighter.h"
+#include "settings/settings.h"
 #include "support/test_support.h"
 #include "writers/writer_bsc.h"
 #include "writers/writer_fa.h"
@@ -174,6 +181,27 @@ TEST_F(OwnMoves, AttacksStrikeProjectilesLaunchAndHoldsStayInStep) {
   }
 }
 
+// A move another follows through a link shows the computer where it may press on (frames
+// marked 1) while its link window is still open; one without them is never followed by the
+// computer, however its link rows read.
+TEST_F(OwnMoves, EveryMoveThatLinksOnOffersItsLinkFrames) {
+  if (!real_shared_) GTEST_SKIP() << "needs the generated shared motions";
+  for (int c = 0; c < fig::kCharacters; ++c) {
+    SCOPED_TRACE(c);
+    Load_Character(c);
+    const Fighter& f = fighters[0];
+    std::set<int> checked;
+    for (const ChainLink& l : MoveTables.Chain_Table[c]) {
+      if (l.running == NO_LINK || !checked.insert(l.running).second) continue;
+      const int a = l.running;
+      bool offered = false;
+      for (int fr = f.act_first[a]; fr <= f.act_win_last[a] && fr <= f.act_last[a]; ++fr)
+        offered = offered || f.frame_part[fr] == 1;
+      EXPECT_TRUE(offered) << "action " << a << " (followed by " << l.next << ") has no link frames";
+    }
+  }
+}
+
 // Turns (rotation entries) are the same on every skeleton, so equal turn sequences mean the
 // same move.
 TEST_F(OwnMoves, NoTwoCharactersShareASpecialMove) {
@@ -251,18 +279,77 @@ TEST_F(OwnMoves, EveryCharacterHasItsOwnGuardAndVictoryPoses) {
       EXPECT_GT(Apart(wins[i], wins[j]), 150) << "characters " << i / 2 << " and " << j / 2;
 }
 
-// The command slots the computer starts from 13 units or more and from 10 or more, by the
-// characters its routines play (slot = 4 x command + 2 for buttons 3/4 + 1 for buttons 1/3).
-struct FarUse {
-  std::vector<int> characters, from13, from10;
-};
-const FarUse kFarUse[] = {
-    {{0, 11, 14}, {13, 25}, {27, 21, 19, 5}},  {{1}, {13, 23}, {25, 1, 19, 7}},
-    {{2}, {25}, {15, 21, 13, 5, 3}},           {{3, 10}, {}, {15, 23, 13, 1}},
-    {{4}, {13}, {25, 27, 15, 19, 3}},          {{5}, {}, {27, 23, 31, 25, 1, 5}},
-    {{6}, {13, 25}, {15, 19, 23}},             {{7, 12}, {}, {27, 23, 15, 31, 13, 25, 3}},
-    {{8}, {}, {25, 23, 13, 31, 3}},            {{9, 13}, {15, 13}, {21, 25, 1}},
-};
+// Two bare fighters `sep` apart, both idle; fighter 1 is the computer playing `character`.
+void Computer_Facing(int character, float sep) {
+  static const Fighter blank{};
+  for (int i = 0; i < 2; ++i) {
+    fighters[i] = blank;
+    Fighter& f = fighters[i];
+    for (int a = 0; a < MAX_ACTIONS; ++a) {
+      f.act_first[a] = 10 + 12 * a;
+      f.act_last[a] = 10 + 12 * a + 11;
+    }
+    f.life = 85;
+    f.action = 22;
+    f.frame = f.act_first[22] + 5;
+    f.cmd_code = -1;
+    f.first_part = 2;
+    f.last_part = 16;
+    Players[i] = PlayerInput{};
+  }
+  fighters[0].yaw = fighters[0].face_yaw = 90;
+  fighters[1].yaw = fighters[1].face_yaw = 270;
+  Match = MatchState{};
+  Match.human[0] = 1;
+  Match.character[1] = character;
+  Match.clock_left = 6000;
+  Effects = EffectState{};
+  Cpu = CpuState{};
+  CpuMind = CpuMindState{};
+  Settings.difficulty = 2;
+  fighters[0].pos_x = Draw.Body_Centre[0][0] = -sep / 2;
+  fighters[1].pos_x = Draw.Body_Centre[1][0] = sep / 2;
+  update_distance();
+}
+
+// The special moves the computer playing `character` starts from 10 units or more and from 13
+// or more against a standing or crouching opponent, found by letting its routine choose over
+// many frames, stances, gauges and lives: band[action] is 10 or 13.
+std::vector<int> Computer_Far_Bands(int character) {
+  std::vector<int> band(1000, 0);
+  for (float sep : {10.2f, 11.0f, 12.0f, 12.9f, 13.2f, 14.0f, 15.0f, 15.9f}) {
+    for (int stance : {0, 23})
+      for (int crouch : {0, 1})
+        for (int gauge : {50, 150})
+          for (int fc = 0; fc < 6; ++fc)
+            for (int extra = 0; extra < 12; ++extra) {
+              Computer_Facing(character, sep);
+              frame_count = fc;
+              fighters[1].stance = stance;
+              fighters[1].gauge = gauge;
+              fighters[1].life = 85 + extra;
+              if (crouch) {
+                fighters[0].crouching = 1;
+                fighters[0].action = 30;
+                fighters[0].frame = fighters[0].act_first[30] + 5;
+              }
+              Cpu.CpuReady[1] = Cpu.CpuLevel[1];
+              CpuThink(1, character);
+              const PlayerInput& in = Players[1];
+              const int cmd = fighters[1].cmd_code;
+              const int b = in.attack1_pressed ? 1 : in.attack2_pressed ? 2 : in.attack3_pressed ? 3 : in.attack4_pressed ? 4 : 0;
+              if (cmd < 0 || cmd > 7 || b == 0) continue;
+              const int slot = 4 * cmd + (b >= 3 ? 2 : 0) + (b % 2 == 1 ? 1 : 0);
+              const int action = MoveTables.Special_Table[character][slot];
+              if (action != NO_MOVE) band[action] = std::max(band[action], sep >= 13 ? 13 : 10);
+            }
+  }
+  Match = MatchState{};
+  Cpu = CpuState{};
+  CpuMind = CpuMindState{};
+  frame_count = 0;
+  return band;
+}
 
 // Root-to-root distance at which fighter 0's strikes in `action` first touch a defender: the
 // striking box's front under the game's own posing (frame offsets included), plus the
@@ -291,18 +378,11 @@ float Own_Reach(const fig::Model& model, int action, bool* projectile) {
 TEST_F(OwnMoves, AttacksReachTheDistancesTheComputerPlaysThemFrom) {
   for (int c = 0; c < fig::kCharacters; ++c) {
     SCOPED_TRACE(c);
+    const std::vector<int> band = Computer_Far_Bands(c);
     Load_Character(c);
     auto model = std::make_unique<fig::Model>();
     fig::TextureLayout layout;
     ASSERT_TRUE(fig::Fig_BuildModel(c, *model, layout));
-    std::vector<int> band(1000, 0);
-    for (const FarUse& use : kFarUse) {
-      if (std::find(use.characters.begin(), use.characters.end(), c) == use.characters.end()) continue;
-      for (int slot : use.from10)
-        if (MoveTables.Special_Table[c][slot] != NO_MOVE) band[MoveTables.Special_Table[c][slot]] = 10;
-      for (int slot : use.from13)
-        if (MoveTables.Special_Table[c][slot] != NO_MOVE) band[MoveTables.Special_Table[c][slot]] = 13;
-    }
     for (int a : own_actions(c)) {
       if (!is_special(a) && a != 241 && a != 242) continue;
       bool projectile = false;

@@ -14,6 +14,7 @@
 #include "assetgen.h"
 #include "assets/asset_anim.h"
 #include "assets/asset_table.h"
+#include "fight/fight_hit.h"
 #include "fight/fight_state.h"
 #include "figures/fig_figure.h"
 #include "figures/fig_roster.h"
@@ -129,6 +130,26 @@ TEST_F(PreloadData, StrikesCuesAndFloorMarksSitOnTheirFrames) {
                                                        F().frame_hit[f] % 100 <= 3;
     EXPECT_GE(dust, 1) << "action " << a;
   }
+}
+
+// A blow no guard stops rocks the opponent back with a reaction of its own: every shared attack
+// whose kind makes it such a blow finds that reaction in the tables, or the struck fighter
+// would stand there untouched.
+TEST_F(PreloadData, EveryUnstoppableBlowHasItsReaction) {
+  constexpr int kRocked = 521;
+  int rocking = 0;
+  for (int a : kAttacks) {
+    for (int f = First(a); f <= Last(a); ++f) {
+      if (F().frame_part[f] < 2 || F().frame_hit[f] == 5) continue;
+      std::int32_t special = 0;
+      if (Strike_Height(F().frame_hit[f] % 100, &special) != 6) continue;
+      ++rocking;
+      EXPECT_GT(First(kRocked), 0) << "action " << a << " rocks the opponent into nothing";
+      EXPECT_GT(Last(kRocked), First(kRocked) + 10) << "action " << a;
+      break;
+    }
+  }
+  EXPECT_GT(rocking, 0);  // the open kicks and the lunge are such blows
 }
 
 TEST_F(PreloadData, DifferentActionsMoveDifferently) {

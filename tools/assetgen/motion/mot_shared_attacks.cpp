@@ -41,13 +41,14 @@ constexpr Pose kSideChamber = With(kStance, {{4, -6, 64, 0},    {3, -6, 4, 0},  
                                              {14, -96, -50, 0}, {15, 120, 0, 0},  {16, 20, 0, 0},
                                              {8, 10, -6, 6},    {9, 20, 0, 0},    {10, -10, 0, 0},
                                              {11, -50, 0, -20}, {5, -20, 0, 30}});
-constexpr Pose kSideOut = With(kSideChamber, {{4, -24, 70, 0}, {3, -10, 4, 0}, {2, 14, -60, 0},
-                                              {14, -96, -64, 0}, {15, 4, 0, 0}, {16, 30, 0, 0},
-                                              {8, 20, -6, 6},    {9, 10, 0, 0}});
+// The stop kick: the same thrust driven down into the opponent's lead knee.
+constexpr Pose kSideLowOut = With(kSideChamber, {{4, -14, 70, 0}, {3, -6, 4, 0}, {2, 8, -60, 0},
+                                                 {14, -62, -64, 0}, {15, 4, 0, 0}, {16, 36, 0, 0},
+                                                 {8, 16, -6, 6},    {9, 16, 0, 0}});
 // The low stance's spinning back kick with the rear leg.
 constexpr Pose kSpinLoad = Plus(kLow, {{4, 0, 70, 0}, {3, 0, 20, 0}, {2, 0, 20, 0}, {9, 10, 0, 0}});
-constexpr Pose kSpinOut = With(kLow, {{4, -20, 190, 0},   {3, -10, 0, 0},  {2, 10, 160, 0},
-                                      {8, -100, -170, 10}, {9, 4, 0, 0},    {10, 20, 0, 0},
+constexpr Pose kSpinOut = With(kLow, {{4, -8, 190, 0},    {3, -6, 0, 0},   {2, 8, 160, 0},
+                                      {8, -76, -170, 10}, {9, 4, 0, 0},    {10, 20, 0, 0},
                                       {14, -4, -10, -6},  {15, 14, 0, 0},  {11, -40, 0, -40}, {5, -40, 0, 40}});
 constexpr Pose kSpinHome = Plus(kLow, {{4, 0, 360, 0}});
 
@@ -166,23 +167,23 @@ constexpr fig::Vec3 Z(float z) { return {0, 0, z}; }
 constexpr Motion kMotions[] = {
     // Standing buttons 1..4; the low stance's 2 and 4.
     M("jab", 180, &kStance,
-      {P(&kJabLoad, 3, Ease::Out), Cue(P(&kJabOut, 4, Ease::Snap, Z(0.55f)), kCueLight), Hit(&kJabOut, 3, 13, kHitJab),
-       Link(P(&kJabLoad, 5, Ease::InOut, Z(-0.55f))), Link(P(&kStance, 5))}),
+      {P(&kJabLoad, 3, Ease::Out), Cue(P(&kJabOut, 4, Ease::Snap, Z(5.0f)), kCueLight), Hit(&kJabOut, 3, 13, kHitOpen),
+       Link(P(&kJabLoad, 5, Ease::InOut, Z(-1.6f))), Link(P(&kStance, 5))}),
     M("cross", 240, &kStance,
       {P(&kCrossLoad, 4, Ease::Out), Cue(P(&kCrossOutOnLine, 4, Ease::Snap, Z(0.9f)), kCueSwing), Hit(&kCrossOutOnLine, 3, 7, kHitOpen),
        Link(P(&kCrossLoad, 6, Ease::InOut, Z(-0.9f))), P(&kStance, 6)}),
     M("high_kick", 210, &kStance,
-      {Cue(P(&kKickChamber, 8, Ease::Out, Z(1.6f)), kCueShout), Cue(P(&kKickOutOnLine, 5, Ease::Snap, Z(1.6f)), kCueHeavy),
-       Hit(&kKickOutOnLine, 4, 10, kHitHigh7), P(&kKickChamber, 8, Ease::InOut, Z(-1.6f)), Link(P(&kStance, 9, Ease::InOut, Z(-1.6f)))}),
+      {Cue(P(&kKickChamber, 8, Ease::Out, Z(2.4f)), kCueShout), Cue(P(&kKickOutOnLine, 5, Ease::Snap, Z(2.4f)), kCueHeavy),
+       Hit(&kKickOutOnLine, 4, 10, kHitRocking), P(&kKickChamber, 8, Ease::InOut, Z(-1.6f)), Link(P(&kStance, 9, Ease::InOut, Z(-1.6f)))}),
     M("side_thrust", 290, &kStance,
-      {P(&kSideChamber, 8, Ease::Out, Z(1.8f)), Cue(P(&kSideOut, 5, Ease::Snap, Z(1.8f)), kCueHeavy),
-       Hit(&kSideOut, 4, 16, kHitMid7), P(&kSideChamber, 8, Ease::InOut, Z(-1.8f)), Link(P(&kStance, 10, Ease::InOut, Z(-1.8f)))}),
+      {P(&kSideChamber, 8, Ease::Out, Z(2.6f)), Cue(P(&kSideLowOut, 5, Ease::Snap, Z(3.0f)), kCueHeavy),
+       Hit(&kSideLowOut, 4, 16, kHitLowHeavy), P(&kSideChamber, 8, Ease::InOut, Z(-1.8f)), Link(P(&kStance, 10, Ease::InOut, Z(-1.8f)))}),
     M("palm_low", 241, &kLow,
-      {P(&kPalmLoad, 5, Ease::Out), Cue(P(&kPalmOutOnLine, 4, Ease::Snap, Z(1.4f)), kCueSwing), Hit(&kPalmOutOnLine, 4, 13, kHitMid7),
-       Link(P(&kPalmLoad, 7, Ease::InOut, Z(-1.4f))), P(&kLow, 6)}),
+      {P(&kPalmLoad, 5, Ease::Out), Cue(P(&kPalmOutOnLine, 4, Ease::Snap, Z(6.4f)), kCueSwing), Hit(&kPalmOutOnLine, 4, 13, kHitHeavy),
+       Link(P(&kPalmLoad, 7, Ease::InOut, Z(-2.6f))), P(&kLow, 6)}),
     M("spin_kick_low", 242, &kLow,
-      {P(&kSpinLoad, 6, Ease::Out, Z(1.0f)), Cue(Plant(P(&kSpinOutOnLine, 7, Ease::Snap), 16), kCueHeavy),
-       Hit(&kSpinOutOnLine, 4, 10, kHitHigh7), Plant(P(&kSpinHome, 10, Ease::InOut), 16), P(&kSpinHome, 4, Ease::Linear)}),
+      {P(&kSpinLoad, 6, Ease::Out, Z(4.4f)), Cue(Plant(P(&kSpinOutOnLine, 7, Ease::Snap), 16), kCueHeavy),
+       Hit(&kSpinOutOnLine, 4, 10, kHitHighHeavy), Plant(P(&kSpinHome, 10, Ease::InOut), 16), P(&kSpinHome, 4, Ease::Linear)}),
     // Crouching buttons 1, 3, 2, 4.
     M("crouch_jab", 37, &kCrouch,
       {Cue(P(&kCrJab, 4, Ease::Snap, Z(0.3f)), kCueLight), Hit(&kCrJab, 3, 13, kHitJab),
@@ -194,27 +195,27 @@ constexpr Motion kMotions[] = {
       {Cue(P(&kCrPunchOnLine, 5, Ease::Snap, Z(1.0f)), kCueSwing), Hit(&kCrPunchOnLine, 3, 7, kHitLow),
        Link(P(&kCrouch, 10, Ease::InOut, Z(-1.0f)))}),
     M("sweep", 40, &kCrouch,
-      {P(&kSweepLoad, 5, Ease::Out, Z(0.8f)), Cue(Plant(P(&kSweepOut, 5, Ease::Snap, Z(0.8f)), 16), kCueHeavy),
-       Hit(&kSweepOut, 4, 10, kHitLowHeavy), P(&kSweepLoad, 8, Ease::InOut, Z(-1.6f)), P(&kCrouch, 6)}),
+      {P(&kSweepLoad, 5, Ease::Out, Z(-0.6f)), Cue(Plant(P(&kSweepOut, 5, Ease::Snap, Z(-0.6f)), 16), kCueHeavy),
+       Hit(&kSweepOut, 4, 10, kHitLowHeavy), P(&kSweepLoad, 8, Ease::InOut, Z(1.2f)), P(&kCrouch, 6)}),
     // Directional attacks: forward, down-forward, back with buttons 1/2 and 3/4.
     M("lunge_punch", 181, &kStance,
-      {P(&kLungeLoad, 5, Ease::Out), Cue(P(&kLungeOut, 5, Ease::Snap, Z(2.4f)), kCueSwing), Hit(&kLungeOut, 3, 13, kHitOpen),
+      {P(&kLungeLoad, 5, Ease::Out), Cue(P(&kLungeOut, 5, Ease::Snap, Z(3.6f)), kCueSwing), Hit(&kLungeOut, 3, 13, kHitRocking),
        Link(P(&kJabLoad, 8, Ease::InOut, Z(-1.2f))), P(&kStance, 6)}),
     M("uppercut", 188, &kStance,
-      {P(&kUpperDip, 6, Ease::Out, Z(0.8f)), Cue(P(&kUpperOut, 5, Ease::Snap, Z(1.0f)), kCueHeavy),
-       Hit(&kUpperOut, 3, 7, kHitLaunch), P(&kUpperOut, 5, Ease::Linear), Link(P(&kStance, 10, Ease::InOut, Z(-1.8f)))}),
+      {P(&kUpperDip, 6, Ease::Out, Z(3.2f)), Cue(P(&kUpperOut, 5, Ease::Snap, Z(3.6f)), kCueHeavy),
+       Hit(&kUpperOut, 3, 7, kHitRocking), Link(P(&kUpperOut, 5, Ease::Linear)), P(&kStance, 10, Ease::InOut, Z(-1.8f))}),
     M("backfist", 189, &kStance,
       {P(&kBackfistLoad, 5, Ease::Out), Cue(P(&kBackfistOut, 4, Ease::Snap, Z(0.8f)), kCueSwing),
        Hit(&kBackfistOut, 3, 13, kHitOpen), Link(P(&kStance, 10, Ease::InOut, Z(-0.8f)))}),
     M("slide_kick", 211, &kStance,
-      {P(&kSlideLoad, 5, Ease::Out), Cue(P(&kSlideOut, 6, Ease::Out, Z(3.4f)), kCueFall), Hit(&kSlideOut, 5, 16, kHitSweep, Z(0.8f)),
-       P(&kCrouch, 8, Ease::InOut, Z(-1.2f)), P(&kStance, 8)}),
+      {P(&kSlideLoad, 5, Ease::Out), Cue(P(&kSlideOut, 6, Ease::Out, Z(2.4f)), kCueFall), Hit(&kSlideOut, 5, 16, kHitLowHeavy, Z(0.8f)),
+       Link(P(&kCrouch, 8, Ease::InOut, Z(-1.2f))), P(&kStance, 8)}),
     M("spinning_heel", 216, &kStance,
       {P(&kHeelLoad, 6, Ease::Out, Z(0.6f)), Cue(Plant(P(&kHeelOutOnLine, 7, Ease::Snap), 16), kCueHeavy),
-       Hit(&kHeelOutOnLine, 3, 10, kHitHeavy), Plant(P(&kHeelHome, 10, Ease::InOut), 16), P(&kHeelHome, 4, Ease::Linear)}),
+       Hit(&kHeelOutOnLine, 3, 10, kHitHeavy), Link(Plant(P(&kHeelHome, 10, Ease::InOut), 16)), P(&kHeelHome, 4, Ease::Linear)}),
     M("flying_kick", 217, &kStance,
       {P(&kFlyLoad, 5, Ease::Out), Cue(P(&kFlyOut, 6, Ease::Out, {0, 2.2f, 2.6f}), kCueHeavy),
-       Hit(&kFlyOut, 4, 16, kHitMid7, Z(0.6f)), Cue(P(&kFlyLand, 5, Ease::In, {0, -2.2f, 0.2f}), kCueLand),
+       Hit(&kFlyOut, 4, 16, kHitHeavy, Z(0.6f)), Link(Cue(P(&kFlyLand, 5, Ease::In, {0, -2.2f, 0.2f}), kCueLand)),
        P(&kStance, 7, Ease::InOut)}),
     M("stomp_kick", 250, &kStance,
       {P(&kStompLoad, 5, Ease::Out, Z(0.6f)), Cue(P(&kStompOutOnLine, 4, Ease::Snap, Z(1.0f)), kCueSwing),
@@ -252,20 +253,21 @@ constexpr Motion kMotions[] = {
 };
 
 // The root-to-root distances each attack's strike reaches (the defender's front being about
-// 0.8 in front of its root once its boxes are widened).
+// 0.8 in front of its root once its boxes are widened). The computer throws its standing
+// blows from about ten units off, so those step in that far.
 constexpr Reach kReaches[] = {
-    {180, 5.0f, 6.8f},   // jab
+    {180, 9.5f, 12.0f},  // jab: a step in
     {240, 5.0f, 7.0f},   // cross
-    {210, 7.5f, 9.5f},   // high kick
-    {290, 9.0f, 11.0f},  // side thrust: the long poke
-    {241, 5.5f, 7.5f},   // palm in the low stance
-    {242, 8.0f, 10.5f},  // spinning back kick
+    {210, 9.0f, 11.5f},  // high kick
+    {290, 11.0f, 13.5f}, // stop kick: the long poke
+    {241, 11.0f, 13.5f}, // palm in the low stance, behind a long step
+    {242, 11.0f, 13.0f}, // spinning back kick
     {37, 4.5f, 6.5f},    // crouching jab
     {38, 6.0f, 8.5f},    // crouching kick
     {39, 4.5f, 7.0f},    // crouching punch
-    {40, 7.5f, 10.5f},   // sweep
-    {181, 7.0f, 9.0f},   // lunge punch
-    {188, 4.0f, 6.5f},   // uppercut
+    {40, 5.5f, 8.0f},     // sweep: from close in
+    {181, 7.0f, 11.0f},  // lunge punch
+    {188, 9.0f, 11.0f},  // uppercut
     {189, 5.0f, 7.0f},   // backfist
     {211, 9.5f, 12.0f},  // slide kick
     {216, 7.5f, 9.5f},   // spinning heel kick

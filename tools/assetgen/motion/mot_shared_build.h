@@ -131,8 +131,8 @@ constexpr int kCueLight = 0, kCueSwing = 1, kCueHeavy = 2, kCueStep = 3, kCueLan
 constexpr int kCueShout = 202, kCueSlam = 203;
 
 // Hit attributes (class x 100 + kind).
-constexpr int kHitOpen = 100, kHitJab = 1, kHitHigh = 2, kHitLow = 3, kHitMid = 4, kHitMid7 = 7, kHitHigh7 = 8, kHitSweep = 9,
-              kHitHeavy = 10, kHitLowHeavy = 12, kHitLaunch = 16, kHitUnblockable = 30;
+constexpr int kHitOpen = 100, kHitRocking = 6, kHitJab = 1, kHitHigh = 2, kHitLow = 3, kHitMid = 4, kHitMid7 = 7, kHitHigh7 = 8, kHitSweep = 9,
+              kHitHeavy = 10, kHitHighHeavy = 11, kHitLowHeavy = 12, kHitLowHalf = 500 + kHitLowHeavy, kHitLaunch = 16, kHitLauncher = 20, kHitUnblockable = 30;
 // A throw's slam: needs no contact, cannot be guarded, and hurts without breaking the pair.
 constexpr int kHitThrow = 431, kThrowPart = 6;
 

@@ -163,6 +163,8 @@ constexpr Motion kMotions[] = {
        P(&kFallBack, 10, Ease::In, Z(-1.0f)), Impact(Cue(P(&kLyingUp, 8, Ease::In, Z(-0.5f)), kCueFall)),
        P(&kLyingUp, 14, Ease::Linear)}),
     Knockdown("twist_down", 175, &kHurtHead, &kSpinFallLeft, &kLyingSpunLeft, 1.6f, 1.0f, 10),
+    // Rocked back by an open blow no guard could take: a longer reel than a body hit.
+    Recoil("rocked", 521, &kHurtHeavy, 5, 14, 0.6f),
 };
 
 }  // namespace

@@ -288,9 +288,9 @@ constexpr Beat kRush[] = {
     B(1, 3, Ease::Snap, kLH, 1, kCueWhoosh, false, 0.8f), B(2, 3, Ease::Snap, kRH, 1, -1, false, 0.8f),
     B(1, 3, Ease::Snap, kLH, 1, kCueWhoosh, false, 0.8f), B(2, 3, Ease::Snap, kRH, 1, -1, false, 0.8f),
     B(1, 3, Ease::Snap, kLH, 1, kCueWhoosh, false, 0.8f), B(2, 3, Ease::Snap, kRH, 1, -1, false, 0.8f),
-    B(0, 3, Ease::InOut),
+    B(0, 3, Ease::InOut, kNo, 0, -1, true),  // a follow-up takes over here, before the heavy straight drives them off
     B(3, 4, Ease::Snap, kRH, 2, kCueHeavy, false, 1.0f),
-    B(3, 6, Ease::Linear, kNo, 0, -1, true),
+    B(3, 6, Ease::Linear),
     B(-1, 10, Ease::InOut, kNo, 0, -1, true),
 };
 constexpr Beat kUppercut[] = {

@@ -24,23 +24,25 @@ constexpr std::uint32_t Bits(std::initializer_list<int> list) {
 
 // The command slots each computer routine starts from 13 units or more (its 13-16 band, its
 // answer to a crouching or attacking opponent there) and from 10 or more (its 10-13 band and
-// its far super moves). A slot is 4 x command + 2 for buttons 3/4 + 1 for buttons 1/3.
+// its far super moves). A slot is 4 x command + 2 for buttons 3/4 + 1 for buttons 1/3; the
+// computer presses button 1 or 3, which becomes 2 or 4 when it stands in stance 23 (so an even
+// slot is a stance-23 press).
 struct FarPlay {
   std::uint32_t characters;
   std::uint32_t from13, from10;
 };
 // clang-format off
 constexpr FarPlay kFarPlay[] = {
-    {Bits({0, 11, 14}), Bits({13, 25}), Bits({27, 21, 19, 5})},              // routine 1
-    {Bits({1}),         Bits({13, 23}), Bits({25, 1, 19, 7})},               // routine 2
-    {Bits({2}),         Bits({25}),     Bits({15, 21, 13, 5, 3})},           // routine 3
-    {Bits({3, 10}),     0,              Bits({15, 23, 13, 1})},              // routine 4
-    {Bits({4}),         Bits({13}),     Bits({25, 27, 15, 19, 3})},          // routine 5
-    {Bits({5}),         0,              Bits({27, 23, 31, 25, 1, 5})},       // routine 6
-    {Bits({6}),         Bits({13, 25}), Bits({15, 19, 23})},                 // routine 7
-    {Bits({7, 12}),     0,              Bits({27, 23, 15, 31, 13, 25, 3})},  // routine 8
-    {Bits({8}),         0,              Bits({25, 23, 13, 31, 3})},          // routine 9
-    {Bits({9, 13}),     Bits({15, 13}), Bits({21, 25, 1})},                  // routine 10
+    {Bits({0, 11, 14}), Bits({12, 24}),     Bits({27, 13, 20, 18, 4})},                // routine 1
+    {Bits({1}),         Bits({13, 23}),     Bits({25, 1, 18, 0, 6})},                  // routine 2
+    {Bits({2}),         Bits({24, 25}),     Bits({15, 21, 12, 20, 13, 5, 2})},         // routine 3
+    {Bits({3, 10}),     0,                  Bits({15, 23, 12, 14, 0})},                // routine 4
+    {Bits({4}),         Bits({12}),         Bits({13, 25, 27, 14, 26, 18, 3})},        // routine 5
+    {Bits({5}),         0,                  Bits({27, 23, 30, 24, 0, 4, 5})},          // routine 6
+    {Bits({6}),         Bits({12, 13, 25}), Bits({15, 19, 12, 22, 13, 5, 1, 2, 0})},   // routine 7
+    {Bits({7, 12}),     0,                  Bits({27, 23, 15, 31, 12, 24, 2, 3})},     // routine 8
+    {Bits({8}),         0,                  Bits({25, 23, 12, 24, 30, 2})},            // routine 9
+    {Bits({9, 13}),     Bits({14, 12}),     Bits({13, 20, 12, 24, 23, 1})},            // routine 10
 };
 // clang-format on
 
@@ -82,6 +84,17 @@ int Mv_ReachBand(int character, int action) {
     }
   }
   return band;
+}
+
+bool Mv_IsFollowUp(int character, int action) {
+  static const bool tables = (build_move_tables(), true);
+  (void)tables;
+  if (character < 0 || character >= 15) return false;
+  for (const ChainLink& link : MoveTables.Chain_Table[character]) {
+    if (link.running == NO_LINK) break;
+    if (link.next == action && link.running != action && link.running < 340) return true;
+  }
+  return false;
 }
 
 float Mv_Reach(const Move& mv, int character) {

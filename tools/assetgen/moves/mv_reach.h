@@ -8,6 +8,13 @@ namespace mv {
 
 constexpr float kCloseReach = 5.5f;  // root to root: just past the 4.0 the fighters keep apart
 
+// A follow-up starts as the blow before it lands, while the struck opponent reels away (and a
+// computer opponent backs off as soon as a move starts): it reaches this far.
+constexpr float kFollowReach = 10.0f;
+
+// True when the action follows another of the character's moves through a link.
+bool Mv_IsFollowUp(int character, int action);
+
 // The band (13 or 10) from which the computer starts this character's action, or 0 when it
 // only plays it close.
 int Mv_ReachBand(int character, int action);

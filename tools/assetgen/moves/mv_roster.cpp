@@ -1,10 +1,13 @@
 // Each character's moves as rows: which kind of move an action is, the hits it deals and
 // whether it is done with the other side of the body. Hit codes are class x 100 + kind: kind
 // 35 multi-hit rush blows, 20 launchers, 8 and 11 high blows, 12 heavy low blows, 10 heavy
-// blows, 24/25/42 projectiles, 31/32 unblockable finishers; class 4 keeps a super move's owner
-// from being struck out of it.
+// blows, 7 lighter mid blows (a few swings that a standing guard would stop almost every time
+// are mid blows instead, which a guard misses now and then), 24/25/42 projectiles, 31/32
+// unblockable finishers, 0 a seizing hand no guard stops (the super grabs that a guard would
+// otherwise turn aside); class 4 keeps a super move's owner from being struck out of it.
 #include "moves/mv_roster.h"
 
+#include <algorithm>
 #include <cmath>
 #include <deque>
 
@@ -36,18 +39,18 @@ constexpr Style kStyles[15] = {
     {1.00f, 1.00f, false, A::VictoryStance, A::VictoryBow},  // 0
     {0.85f, 0.95f, false, A::VictoryHips,   A::VictoryPoint},  // 1
     {1.00f, 1.05f, false, A::VictoryArms,   A::VictoryBow},  // 2
-    {0.90f, 0.97f, false, A::VictoryPoint,  A::VictoryArms},  // 3
-    {1.15f, 1.15f, false, A::VictoryFist,   A::VictoryHips},  // 4
+    {1.15f, 0.97f, false, A::VictoryPoint,  A::VictoryArms},  // 3
+    {1.26f, 1.15f, false, A::VictoryFist,   A::VictoryHips},  // 4
     {0.90f, 0.93f, true,  A::VictoryBlade,  A::VictoryHips},  // 5
-    {1.05f, 0.98f, true,  A::VictoryBlade,  A::VictoryBow},  // 6
+    {0.85f, 0.98f, true,  A::VictoryBlade,  A::VictoryBow},  // 6
     {0.95f, 1.02f, false, A::VictoryStance, A::VictoryFist},  // 7
-    {1.20f, 1.10f, false, A::VictoryArms,   A::VictoryFist},  // 8
+    {1.00f, 1.10f, false, A::VictoryArms,   A::VictoryFist},  // 8
     {0.85f, 1.03f, true,  A::VictoryBlade,  A::VictoryPoint},  // 9
-    {0.90f, 1.12f, false, A::VictoryPoint,  A::VictoryStance},  // 10
+    {0.80f, 1.12f, false, A::VictoryPoint,  A::VictoryStance},  // 10
     {1.00f, 1.09f, false, A::VictoryBow,    A::VictoryPoint},  // 11
     {0.95f, 1.07f, false, A::VictoryHips,   A::VictoryStance},  // 12
     {1.10f, 1.18f, true,  A::VictoryBlade,  A::VictoryFist},  // 13
-    {1.05f, 1.20f, false, A::VictoryHips,   A::VictoryArms},  // 14
+    {0.75f, 1.20f, false, A::VictoryHips,   A::VictoryArms},  // 14
 };
 // clang-format on
 
@@ -62,18 +65,18 @@ constexpr int kMaxRows = 20;
 // clang-format off
 constexpr Row kRows[15][kMaxRows] = {
     {{190, A::Straight, 10, 0, false}, {191, A::SuperRush, 435, 432, false}, {192, A::FlyingKick, 8, 0, false},
-     {197, A::SuperGrab, 410, 0, false}, {220, A::Grab, 10, 0, true}, {221, A::Charge, 410, 0, false},
-     {266, A::SuperSpin, 411, 431, false}, {267, A::SpinKick, 11, 0, false}, {273, A::SuperGrab, 410, 0, true},
+     {197, A::SuperGrab, 400, 0, false}, {220, A::Grab, 10, 0, true}, {221, A::Charge, 410, 0, false},
+     {266, A::SuperSpin, 411, 431, false}, {267, A::SpinKick, 11, 0, false}, {273, A::SuperGrab, 400, 0, true},
      {274, A::Grab, 12, 0, false}, {305, A::Rush, 35, 10, false}, {306, A::Uppercut, 20, 0, false},
      {307, A::HeelDrop, 11, 0, false}, {500, A::SuperRush, 435, 431, true}, {510, A::SuperSpin, 411, 431, true}},  // 0
     {{190, A::SuperPalms, 424, 0, false}, {192, A::TwinKick, 7, 11, false}, {201, A::FlyingKick, 11, 0, true},
-     {226, A::SpinKick, 11, 0, false}, {227, A::SuperSpin, 411, 431, false}, {228, A::Sweep, 12, 0, false},
-     {266, A::SuperRush, 435, 432, true}, {268, A::Backfist, 11, 0, false}, {270, A::FlyingKnee, 10, 0, false},
+     {226, A::SpinKick, 11, 0, false}, {227, A::SuperSpin, 411, 431, false}, {228, A::Sweep, 9, 0, false},
+     {266, A::SuperRush, 435, 432, true}, {268, A::Backfist, 10, 0, false}, {270, A::FlyingKnee, 10, 0, false},
      {271, A::HeelDrop, 11, 0, false}, {272, A::TwinKick, 7, 11, true}, {305, A::Rush, 35, 10, false},
      {306, A::SuperSpin, 411, 431, true}},  // 1
     {{190, A::Straight, 10, 0, true}, {191, A::Uppercut, 20, 0, false}, {192, A::Charge, 10, 0, false},
      {193, A::FlyingKick, 8, 0, false}, {197, A::SuperGrab, 410, 0, false}, {200, A::Backfist, 8, 0, false},
-     {201, A::Palms, 25, 0, false}, {226, A::Sweep, 12, 0, false}, {266, A::SpinKick, 11, 0, true},
+     {201, A::Palms, 25, 0, false}, {226, A::Sweep, 12, 0, false}, {266, A::SpinKick, 10, 0, true},
      {268, A::SuperRush, 435, 432, false}, {269, A::SuperSpin, 411, 431, false}, {305, A::Rush, 35, 10, true},
      {306, A::HeelDrop, 11, 0, false}, {307, A::TwinKick, 4, 8, false}},  // 2
     {{190, A::SpinKick, 11, 0, false}, {191, A::Sweep, 12, 0, false}, {192, A::Straight, 10, 0, false},
@@ -82,16 +85,17 @@ constexpr Row kRows[15][kMaxRows] = {
      {266, A::Rush, 35, 10, false}, {267, A::Uppercut, 20, 0, false}, {271, A::SuperSpin, 411, 431, true},
      {299, A::Charge, 410, 0, false}},  // 3
     {{190, A::Straight, 10, 0, false}, {191, A::Charge, 10, 0, false}, {192, A::Uppercut, 20, 0, false},
-     {193, A::HeelDrop, 11, 0, false}, {194, A::FlyingKnee, 10, 0, false}, {195, A::TwinKick, 4, 8, false},
+     {193, A::HeelDrop, 10, 0, false}, {194, A::FlyingKnee, 10, 0, false}, {195, A::TwinKick, 4, 8, false},
      {226, A::SuperSpin, 411, 431, false}, {227, A::SuperRush, 435, 432, false}, {266, A::Rush, 35, 10, false},
      {267, A::Backfist, 8, 0, true}, {268, A::Sweep, 12, 0, false}, {269, A::SpinKick, 11, 0, false},
-     {270, A::FlyingKick, 8, 0, false}, {273, A::SuperGrab, 410, 0, false}, {274, A::SuperGrab, 412, 0, true}},  // 4
+     {270, A::FlyingKick, 8, 0, false}, {273, A::SuperGrab, 410, 0, false}, {274, A::SuperGrab, 412, 0, true},
+     {211, A::Sweep, 12, 0, false}},  // 4
     {{190, A::Blades, 7, 10, false}, {191, A::SuperBlades, 407, 431, false}, {192, A::SpinKick, 11, 0, false},
      {193, A::Sweep, 12, 0, true}, {194, A::FlyingKick, 8, 0, false}, {195, A::TwinKick, 4, 8, false},
-     {196, A::HeelDrop, 11, 0, false}, {226, A::Backfist, 8, 0, false}, {227, A::SuperSpin, 411, 431, false},
+     {196, A::HeelDrop, 11, 0, false}, {226, A::Backfist, 7, 0, false}, {227, A::SuperSpin, 411, 431, false},
      {266, A::Blades, 8, 12, false}, {267, A::SuperRush, 435, 431, false}, {268, A::Straight, 10, 0, false},
      {269, A::Uppercut, 20, 0, false}, {270, A::Rush, 35, 10, false}, {271, A::FlyingKnee, 10, 0, false},
-     {272, A::FlyingKick, 8, 0, true}, {305, A::Charge, 10, 0, false}, {306, A::Uppercut, 20, 0, true},
+     {272, A::FlyingKick, 7, 0, true}, {305, A::Charge, 10, 0, false}, {306, A::Uppercut, 20, 0, true},
      {307, A::SuperBlades, 407, 432, false}},  // 5
     {{190, A::Throw, 42, 0, false}, {191, A::SuperBlades, 407, 431, false}, {192, A::SuperSpin, 411, 431, false},
      {226, A::Blades, 7, 10, false}, {227, A::SuperRush, 435, 432, false}, {266, A::SpinKick, 11, 0, false},
@@ -105,7 +109,7 @@ constexpr Row kRows[15][kMaxRows] = {
      {226, A::Straight, 10, 0, false}, {227, A::Rush, 35, 10, false}, {228, A::Uppercut, 20, 0, false},
      {266, A::SuperRush, 435, 432, false}, {273, A::SuperGrab, 410, 0, true}, {305, A::HeelDrop, 11, 0, false},
      {306, A::FlyingKnee, 10, 0, false}, {307, A::Sweep, 12, 0, false}},  // 8
-    {{190, A::Blades, 7, 10, false}, {191, A::SpinKick, 11, 0, false}, {197, A::SuperGrab, 410, 0, false},
+    {{190, A::Blades, 7, 10, false}, {191, A::SpinKick, 11, 0, false}, {197, A::SuperGrab, 400, 0, false},
      {220, A::Grab, 10, 0, false}, {221, A::SuperGrab, 410, 0, true}, {266, A::Backfist, 11, 0, false},
      {267, A::Blades, 8, 12, false}, {268, A::FlyingKick, 11, 0, false}, {269, A::SuperBlades, 407, 432, false},
      {270, A::Sweep, 12, 0, false}, {271, A::SuperSpin, 411, 431, false}, {305, A::Rush, 35, 10, false},
@@ -431,7 +435,8 @@ void Mv_CharacterMoves(int character, std::vector<Move>& out) {
   auto attack = [&](const Row& row) {
     Move mv = Build_Move(character, row.action, st, row);
     const int band = Mv_ReachBand(character, row.action);
-    const float target = band > 0 ? static_cast<float>(band) : kCloseReach;
+    float target = band > 0 ? static_cast<float>(band) : kCloseReach;
+    if (Mv_IsFollowUp(character, row.action)) target = std::max(target, kFollowReach);
     Mv_FitLine(mv, character, Keep);
     Mv_FitReach(mv, character, target);
     Stride_Lunge(mv, row.mirror);
