@@ -193,6 +193,7 @@ void neutral_end(int fighter) {
 void special_end(int fighter) {
   Fighter& f = fighters[fighter];
   f.air_timer = 1;
+  if (heightened_start(f.action)) f.height = 0.0f;  // a lifted follow-up lands as it ends
   if (take_queued(fighter)) return;
   clear_action_flags(f);
   fighters[opponent(fighter)].combo = 0;

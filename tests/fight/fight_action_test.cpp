@@ -277,6 +277,19 @@ TEST_F(ActionTest, KnockedDownFighterGetsUpOnceLanded) {
   EXPECT_EQ(f.rise_flag, 0);
 }
 
+TEST_F(ActionTest, ALiftedFollowUpLandsWhenItEnds) {
+  Fighter& f = fighters[0];
+  for (const int action : {194, 271}) {
+    SCOPED_TRACE(action);
+    SetUp();
+    start_action(0, action, 1);
+    f.in_special = 1;
+    f.height = 4.0f;  // linked into while the head was high
+    EXPECT_GT(frames_until(0, 22, 40), 0);
+    EXPECT_EQ(f.height, 0.0f);  // standing on the floor again: it can walk
+  }
+}
+
 TEST_F(ActionTest, BeatenFighterStaysDownAndEndsTheWait) {
   Fighter& f = fighters[0];
   start_action(0, 82, 1);
