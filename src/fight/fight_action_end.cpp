@@ -167,6 +167,7 @@ void clear_action_flags(Fighter& f) {
   f.hit_special = f.reel_frames = f.reel_push = f.knock_force = 0;
   f.launch_speed = f.move_dx = f.move_dz = 0.0f;
   f.loop_count = 0;
+  f.height = 0.0f;  // idle stands on the floor (a follow-up lifted by its link lands)
 }
 
 void to_crouch_idle(int fighter) {
@@ -193,7 +194,6 @@ void neutral_end(int fighter) {
 void special_end(int fighter) {
   Fighter& f = fighters[fighter];
   f.air_timer = 1;
-  if (heightened_start(f.action)) f.height = 0.0f;  // a lifted follow-up lands as it ends
   if (take_queued(fighter)) return;
   clear_action_flags(f);
   fighters[opponent(fighter)].combo = 0;

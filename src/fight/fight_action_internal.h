@@ -54,9 +54,6 @@ constexpr int JUMP_FRAMES = 36;         // jump_count at which a jump lands
 constexpr int USABLE_FOR_SUPER = 100;   // usable gauge a super move needs
 
 inline bool in_range(int v, int lo, int hi) { return v >= lo && v <= hi; }
-// Follow-ups that start where the body is: linked into while the head is high, the body is
-// lifted; it lands again when the move is over.
-inline bool heightened_start(int action) { return in_range(action, 194, 196) || in_range(action, 270, 272); }
 inline int wrap_deg(int a) { return ((a % 360) + 360) % 360; }
 // The unsigned difference of two angles, 0..180.
 inline int angle_gap(int a, int b) {

@@ -65,6 +65,10 @@ int general_slot(int slot) {
   return -1;
 }
 
+bool heightened_start(int action) {
+  return in_range(action, 194, 196) || in_range(action, 270, 272);
+}
+
 // The rapid strings: which requests a running attack lets through, and what they become.
 // -1: the request is dropped.
 int rapid_request(int fighter, int next) {

@@ -31,6 +31,7 @@ struct Tally {
   long wins, rounds, ko, timeouts, frames;
   long usage[MAX_ACTIONS];  // times the character entered each action
   long stay[MAX_ACTIONS];   // the most frames it spent in one go in each action
+  int stay_vs[MAX_ACTIONS]; // the opponent it was fighting then
   long landed[MAX_ACTIONS]; // blows each action landed (hit unguarded or took hold)
 };
 
@@ -132,8 +133,12 @@ void play_round(const int character[2], int level) {
       const int a = fighters[i].action;
       if (a != last[i] && a >= 0 && a < MAX_ACTIONS) ++T.tally[character[i]].usage[a];
       if (a != last[i]) since[i] = frames;
-      long& stay = T.tally[character[i]].stay[a >= 0 && a < MAX_ACTIONS ? a : 0];
-      stay = std::max(stay, frames - since[i] + 1);
+      const int slot = a >= 0 && a < MAX_ACTIONS ? a : 0;
+      Tally& t = T.tally[character[i]];
+      if (frames - since[i] + 1 > t.stay[slot]) {
+        t.stay[slot] = frames - since[i] + 1;
+        t.stay_vs[slot] = character[1 - i];
+      }
       last[i] = a;
     }
     end = round_end();
@@ -183,7 +188,8 @@ void print_results(int usage) {
     for (int c = 0; c < CHARACTERS; ++c)
       for (int a = 0; a < MAX_ACTIONS; ++a)
         if (T.tally[c].stay[a] > 600 && std::find(std::begin(kResting), std::end(kResting), a) == std::end(kResting))
-          std::printf("stay char=%d action=%d frames=%ld\n", c, a, T.tally[c].stay[a]);
+          std::printf("stay char=%d action=%d frames=%ld against=%d\n", c, a, T.tally[c].stay[a],
+                      T.tally[c].stay_vs[a]);
   }
   const double share = T.rounds > 0 ? static_cast<double>(T.kos) / T.rounds : 0.0;
   const double fps = T.seconds > 0 ? T.frames / T.seconds : 0.0;

@@ -279,7 +279,7 @@ TEST_F(ActionTest, KnockedDownFighterGetsUpOnceLanded) {
 
 TEST_F(ActionTest, ALiftedFollowUpLandsWhenItEnds) {
   Fighter& f = fighters[0];
-  for (const int action : {194, 271}) {
+  for (const int action : {194, 271, 192, 240}) {  // lifted, or a move linked on from one
     SCOPED_TRACE(action);
     SetUp();
     start_action(0, action, 1);
