@@ -4,7 +4,7 @@
 include(${SRC}/support/scenario.cmake)
 include(${SRC}/support/mode_runs.cmake)
 if(SANITIZE)
-  # Some 150,000 frames: minutes under the sanitizers. The game-over run covers the same scenes
+  # Some 200,000 frames: minutes under the sanitizers. The game-over run covers the same scenes
   # but the ending there.
   message(STATUS "a sanitizer build: the run to the ending is skipped")
   return()
@@ -20,7 +20,7 @@ file(READ ${SRC}/scenarios/scripts/one_player_run.txt script)
 file(WRITE ${WORK}/ending.txt "${script}"
      "# He presses start one second into every continue offer.\n"
      "in 3 every 100000 +65 tap A\n")
-run_modes(run ${data} 200000 --script ${WORK}/ending.txt --shots ${WORK}/shots --shot-every 500)
+run_modes(run ${data} 260000 --script ${WORK}/ending.txt --shots ${WORK}/shots --shot-every 500)
 message(STATUS "modes: ${run_MODES}")
 message(STATUS "frames in each: ${run_LENGTHS}")
 
