@@ -179,7 +179,7 @@ constexpr Motion kMotions[] = {
       {P(&kSideChamber, 8, Ease::Out, Z(2.6f)), Cue(P(&kSideLowOut, 5, Ease::Snap, Z(3.0f)), kCueHeavy),
        Hit(&kSideLowOut, 4, 16, kHitLowHeavy), P(&kSideChamber, 8, Ease::InOut, Z(-1.8f)), Link(P(&kStance, 10, Ease::InOut, Z(-1.8f)))}),
     M("palm_low", 241, &kLow,
-      {P(&kPalmLoad, 5, Ease::Out), Cue(P(&kPalmOutOnLine, 4, Ease::Snap, Z(6.4f)), kCueSwing), Hit(&kPalmOutOnLine, 4, 13, kHitHeavy),
+      {P(&kPalmLoad, 4, Ease::Out), Cue(P(&kPalmOutOnLine, 5, Ease::Linear, Z(6.4f)), kCueSwing), Hit(&kPalmOutOnLine, 4, 13, kHitHeavy),
        Link(P(&kPalmLoad, 7, Ease::InOut, Z(-2.6f))), P(&kLow, 6)}),
     M("spin_kick_low", 242, &kLow,
       {P(&kSpinLoad, 6, Ease::Out, Z(4.4f)), Cue(Plant(P(&kSpinOutOnLine, 7, Ease::Snap), 16), kCueHeavy),
