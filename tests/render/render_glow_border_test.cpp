@@ -267,10 +267,17 @@ TEST_F(GlowBorder, ASeeThroughBorderIsLeftOutOnlyWhereItChangesNothing) {
     int differing = 0;
     for (std::size_t i = 0; i < whole.size(); ++i) differing += whole[i] != cut[i];
     EXPECT_EQ(differing, 0) << "mode " << mode;
-    if (mode != kGlow) EXPECT_EQ(at(whole, 180, 180)[1], 220);  // the picture's middle
-    if (mode == kNoDepth) EXPECT_EQ(at(whole, 105, 180)[0], 255);  // white through the border
-    if (mode == kGlow) EXPECT_EQ(at(whole, 105, 180)[0], 0);  // the border darkens
-    if (mode == kDepth) EXPECT_EQ(at(whole, 105, 180)[0], 30);  // hidden by the clear border
+    if (mode != kGlow) {
+      EXPECT_EQ(at(whole, 180, 180)[1], 220);  // the picture's middle
+    }
+    const int border = at(whole, 105, 180)[0];
+    if (mode == kNoDepth) {
+      EXPECT_EQ(border, 255);  // white through the border
+    } else if (mode == kGlow) {
+      EXPECT_EQ(border, 0);  // the border darkens
+    } else if (mode == kDepth) {
+      EXPECT_EQ(border, 30);  // hidden by the clear border
+    }
   }
 }
 
