@@ -126,8 +126,7 @@ constexpr WinFraming kWinFraming[15] = {
     {2.5f, 2.5f, 30, 25},    // character 13
     {1.7f, 1.7f, 0, 45},     // character 14
 };
-constexpr int kWinActionA = 12;
-constexpr int kWinActionB = 13;
+constexpr int kWinActionB = 13;  // the second victory pose (12 is the first)
 
 const WinFraming& framing_of(int fighter) {
   const int ch = std::clamp(Match.character[fighter], 0, 14);
