@@ -10,34 +10,14 @@
 #include "render/render_math.h"
 #include "render/render_state.h"
 #include "render/render_view.h"
+#include "render_effect_fixture.h"
 #include "support/test_support.h"
 #include "writers/writer_image.h"
 
 namespace {
 
-class EffectPass : public test::TempDirTest {
+class EffectPass : public test::EffectPassTest {
  protected:
-  void SetUp() override {
-    TempDirTest::SetUp();
-    test::ensure_gl();
-    Build_SinCosTables();
-    Build_AngleTables();
-    Reset_Textures();
-    Effects = EffectState{};
-    static const Fighter kBlank{};
-    fighters[0] = kBlank;
-    fighters[1] = kBlank;
-    fighters[0].yaw = 90;
-    fighters[1].yaw = 270;
-    Match = MatchState{};
-    frame_count = 0;
-    for (EffectModel& m : Polygon_Sprite) m.max_vtx = m.max_face = 0;
-    Mat_Translate(&View, 0, 0, 30);  // camera 30 units behind the origin, looking along +z
-  }
-  void TearDown() override {
-    Reset_Textures();
-    TempDirTest::TearDown();
-  }
   // Runs the pass until the slot retires; the number of passes it was active for.
   static int passes_until_retired(const std::int32_t& active) {
     int n = 0;

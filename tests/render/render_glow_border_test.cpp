@@ -15,6 +15,7 @@
 #include "render/render_sprite.h"
 #include "render/render_state.h"
 #include "render/render_view.h"
+#include "render_effect_fixture.h"
 #include "support/test_support.h"
 #include "writers/writer_image.h"
 
@@ -40,29 +41,8 @@ writers::ImageFile bordered(int x0, int y0, int x1, int y1, std::uint8_t r, std:
   return image;
 }
 
-class GlowBorder : public test::TempDirTest {
+class GlowBorder : public test::EffectPassTest {
  protected:
-  void SetUp() override {
-    TempDirTest::SetUp();
-    test::ensure_gl();
-    Build_SinCosTables();
-    Build_AngleTables();
-    Reset_Textures();
-    Effects = EffectState{};
-    static const Fighter kBlank{};
-    fighters[0] = kBlank;
-    fighters[1] = kBlank;
-    fighters[0].yaw = 90;
-    fighters[1].yaw = 270;
-    Match = MatchState{};
-    frame_count = 0;
-    for (EffectModel& m : Polygon_Sprite) m.max_vtx = m.max_face = 0;
-    Mat_Translate(&View, 0, 0, 30);
-  }
-  void TearDown() override {
-    Reset_Textures();
-    TempDirTest::TearDown();
-  }
   void load(const char* name, const writers::ImageFile& image, int slot) {
     ASSERT_TRUE(writers::Write_Image(name, image));
     ASSERT_TRUE(Load_TextureSlot(name, slot));
