@@ -10,7 +10,7 @@
 #include "render/render_math.h"
 #include "render/render_state.h"
 #include "render/render_view.h"
-#include "render_effect_fixture.h"
+#include "render/render_effect_fixture.h"
 #include "support/test_support.h"
 #include "writers/writer_image.h"
 
