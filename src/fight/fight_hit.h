@@ -12,6 +12,8 @@ struct HitState {
   // these; the fight never does.
   std::int32_t landed[2];
   std::int32_t landed_action[2];
+  std::int32_t guarded[2];         // blows the defender guarded, and the move of the last one
+  std::int32_t guarded_action[2];
   std::int32_t projectile_action[2];  // the move that threw each fighter's latest projectile
 };
 extern HitState Hits;

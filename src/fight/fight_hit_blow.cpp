@@ -263,10 +263,20 @@ void deciding_blow(int attacker, int defender, int damage, int reaction, bool he
   }
 }
 
+int blow_action(int attacker, int by_projectile) {
+  return by_projectile ? Hits.projectile_action[attacker] : fighters[attacker].action;
+}
+
 // Counts a blow that landed for the review tools.
 void note_landed(int attacker, int by_projectile) {
   ++Hits.landed[attacker];
-  Hits.landed_action[attacker] = by_projectile ? Hits.projectile_action[attacker] : fighters[attacker].action;
+  Hits.landed_action[attacker] = blow_action(attacker, by_projectile);
+}
+
+// Counts a blow the defender guarded, for the same tools.
+void note_guarded(int attacker, int by_projectile) {
+  ++Hits.guarded[attacker];
+  Hits.guarded_action[attacker] = blow_action(attacker, by_projectile);
 }
 
 }  // namespace
@@ -318,6 +328,7 @@ void apply_blow(int attacker, int defender, int guard_class, int damage, int by_
   bool held = false;     // thrown or held: the pair's motion goes on
   bool grabbed = false;  // this blow took hold (the hold has played the hit shout)
   if (guarded) {
+    note_guarded(attacker, by_projectile);
     a.hit_new = -1;
     if (a.super_mode) {
       a.chip_acc += damage * 3 / 2;

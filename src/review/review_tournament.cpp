@@ -33,6 +33,7 @@ struct Tally {
   long stay[MAX_ACTIONS];   // the most frames it spent in one go in each action
   int stay_vs[MAX_ACTIONS]; // the opponent it was fighting then
   long landed[MAX_ACTIONS]; // blows each action landed (hit unguarded or took hold)
+  long guarded[MAX_ACTIONS];  // blows of each action the opponent guarded
 };
 
 // The tournament's results; written only by this file's steps.
@@ -113,6 +114,10 @@ void count_round(const int character[2], RoundEnd end, long frames) {
   }
 }
 
+void count_blows(long (&per_action)[MAX_ACTIONS], int action, long blows) {
+  if (blows > 0 && action >= 0 && action < MAX_ACTIONS) per_action[action] += blows;
+}
+
 void play_round(const int character[2], int level) {
   start_round(level);
   int last[2] = {-1, -1};
@@ -122,12 +127,12 @@ void play_round(const int character[2], int level) {
   const auto begin = std::chrono::steady_clock::now();
   while (end == ROUND_RUNNING && frames < ROUND_FRAME_LIMIT) {
     const std::int32_t landed[2] = {Hits.landed[0], Hits.landed[1]};
+    const std::int32_t guarded[2] = {Hits.guarded[0], Hits.guarded[1]};
     step();
     ++frames;
     for (int i = 0; i < 2; ++i) {
-      const int a = Hits.landed_action[i];
-      if (Hits.landed[i] != landed[i] && a >= 0 && a < MAX_ACTIONS)
-        T.tally[character[i]].landed[a] += Hits.landed[i] - landed[i];
+      count_blows(T.tally[character[i]].landed, Hits.landed_action[i], Hits.landed[i] - landed[i]);
+      count_blows(T.tally[character[i]].guarded, Hits.guarded_action[i], Hits.guarded[i] - guarded[i]);
     }
     for (int i = 0; i < 2; ++i) {
       const int a = fighters[i].action;
@@ -157,8 +162,9 @@ void print_specials(int c) {
     if (action == NO_MOVE || action < 0 || action >= MAX_ACTIONS || seen[action]) continue;
     seen[action] = true;
     const double per50 = t.rounds > 0 ? 50.0 * t.landed[action] / t.rounds : 0.0;
-    std::printf("special char=%d action=%d started=%ld landed=%ld per50=%.1f%s\n", c, action,
-                t.usage[action], t.landed[action], per50, per50 < 1.0 ? " RARE" : "");
+    std::printf("special char=%d action=%d started=%ld landed=%ld guarded=%ld per50=%.1f%s\n", c,
+                action, t.usage[action], t.landed[action], t.guarded[action], per50,
+                per50 < 1.0 ? " RARE" : "");
   }
 }
 

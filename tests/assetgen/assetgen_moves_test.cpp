@@ -394,6 +394,35 @@ TEST_F(OwnMoves, AttacksReachTheDistancesTheComputerPlaysThemFrom) {
   }
 }
 
+// True when fighter 0's `action` strikes with a blow of `kind` on any of its frames.
+bool Strikes_With(int action, int kind) {
+  const Fighter& f = fighters[0];
+  for (int fr = f.act_first[action]; fr <= f.act_last[action]; ++fr)
+    if (f.frame_hit[fr] % 100 == kind && armed(f.frame_part[fr], f.frame_hit[fr])) return true;
+  return false;
+}
+
+// A follow-up queued behind a rush (multi-hit blows, kind 35) starts once the rush's last
+// straight has driven the opponent off, so it reaches that far.
+TEST_F(OwnMoves, ARushsQueuedFollowUpReachesWhereTheRushDroveTheOpponent) {
+  int checked = 0;
+  for (int c = 0; c < fig::kCharacters; ++c) {
+    SCOPED_TRACE(c);
+    Load_Character(c);
+    auto model = std::make_unique<fig::Model>();
+    fig::TextureLayout layout;
+    ASSERT_TRUE(fig::Fig_BuildModel(c, *model, layout));
+    for (const ChainLink& link : MoveTables.Chain_Table[c]) {
+      if (link.running == NO_LINK) break;
+      if (link.queued == 0 || link.running >= MAX_ACTIONS || !Strikes_With(link.running, 35)) continue;
+      bool projectile = false;
+      EXPECT_GE(Own_Reach(*model, link.next, &projectile), 15.4f) << link.running << " -> " << link.next;
+      ++checked;
+    }
+  }
+  EXPECT_GE(checked, 4);  // characters 0, 8 and the boss queue follow-ups behind their rushes
+}
+
 // The lowest point of fighter 0's mesh (hair, limbs, hands; props left out) on frame `fr`.
 float Lowest(const fig::Model& model, int fr) {
   Fighter& f = fighters[0];

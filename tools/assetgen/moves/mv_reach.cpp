@@ -158,6 +158,10 @@ void Mv_FitLine(Move& mv, int character, const mot::Pose* (*keep)(const mot::Pos
   }
 }
 
+// Whole-body travel a lunge's beat may average over its frames: an eased beat covers about a
+// third as much again on its quickest frame, which must stay a step and not a leap.
+constexpr float kLongestStride = 1.4f;
+
 void Mv_FitReach(Move& mv, int character, float target) {
   const int strike = First_Strike(mv.motion);
   if (strike < 0 || Is_Projectile(mv.motion.phases[strike].hit)) return;
@@ -178,6 +182,12 @@ void Mv_FitReach(Move& mv, int character, float target) {
   // A long lunge skims the floor in a low skip rather than gliding along it (the stride itself is
   // shaped by the move's builder).
   if (strike > 0 && added > 1.5f) mv.motion.phases[strike - 1].arc += std::min(0.45f, 0.08f * added);
+  // The very longest lunges take a frame more for every stride they would otherwise leap.
+  for (int i = std::max(0, strike - 1); i <= strike; ++i) {
+    mot::Phase& ph = mv.motion.phases[i];
+    const int frames = static_cast<int>(std::ceil(ph.travel.z / kLongestStride));
+    if (frames > ph.frames) ph.frames = frames;
+  }
 }
 
 }  // namespace mv

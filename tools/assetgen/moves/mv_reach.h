@@ -12,6 +12,10 @@ constexpr float kCloseReach = 5.5f;  // root to root: just past the 4.0 the figh
 // computer opponent backs off as soon as a move starts): it reaches this far.
 constexpr float kFollowReach = 10.0f;
 
+// A rush's follow-up is taken as its last straight drives the opponent off, so it reaches as far
+// as they are driven.
+constexpr float kAfterRushReach = 15.5f;
+
 // True when the action follows another of the character's moves through a link.
 bool Mv_IsFollowUp(int character, int action);
 

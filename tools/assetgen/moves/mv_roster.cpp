@@ -2,9 +2,11 @@
 // whether it is done with the other side of the body. Hit codes are class x 100 + kind: kind
 // 35 multi-hit rush blows, 20 launchers, 8 and 11 high blows, 12 heavy low blows, 10 heavy
 // blows, 7 lighter mid blows (a few swings that a standing guard would stop almost every time
-// are mid blows instead, which a guard misses now and then), 24/25/42 projectiles, 31/32
-// unblockable finishers, 0 a seizing hand no guard stops (the super grabs that a guard would
-// otherwise turn aside); class 4 keeps a super move's owner from being struck out of it.
+// are mid blows instead, which a guard misses now and then), 6 open blows no guard stops (the
+// swings a guard would turn aside every time; they rock the opponent back), 24/25/42
+// projectiles, 31/32 unblockable finishers, 0 a seizing hand no guard stops (the super grabs
+// that a guard would otherwise turn aside); class 4 keeps a super move's owner from being
+// struck out of it.
 #include "moves/mv_roster.h"
 
 #include <algorithm>
@@ -76,8 +78,8 @@ constexpr Row kRows[15][kMaxRows] = {
      {306, A::SuperSpin, 411, 431, true}},  // 1
     {{190, A::Straight, 10, 0, true}, {191, A::Uppercut, 20, 0, false}, {192, A::Charge, 10, 0, false},
      {193, A::FlyingKick, 8, 0, false}, {197, A::SuperGrab, 410, 0, false}, {200, A::Backfist, 8, 0, false},
-     {201, A::Palms, 25, 0, false}, {226, A::Sweep, 12, 0, false}, {266, A::SpinKick, 10, 0, true},
-     {268, A::SuperRush, 435, 432, false}, {269, A::SuperSpin, 411, 431, false}, {305, A::Rush, 35, 10, true},
+     {201, A::Palms, 25, 0, false}, {226, A::Sweep, 12, 0, false}, {266, A::SpinKick, 6, 0, true},
+     {268, A::SuperRush, 435, 432, false}, {269, A::SuperSpin, 411, 431, false}, {305, A::Rush, 35, 6, true},
      {306, A::HeelDrop, 11, 0, false}, {307, A::TwinKick, 4, 8, false}},  // 2
     {{190, A::SpinKick, 11, 0, false}, {191, A::Sweep, 12, 0, false}, {192, A::Straight, 10, 0, false},
      {193, A::SuperSpin, 411, 431, false}, {195, A::SuperRush, 435, 432, false}, {196, A::FlyingKick, 8, 0, false},
@@ -86,13 +88,13 @@ constexpr Row kRows[15][kMaxRows] = {
      {299, A::Charge, 410, 0, false}},  // 3
     {{190, A::Straight, 10, 0, false}, {191, A::Charge, 10, 0, false}, {192, A::Uppercut, 20, 0, false},
      {193, A::HeelDrop, 10, 0, false}, {194, A::FlyingKnee, 10, 0, false}, {195, A::TwinKick, 4, 8, false},
-     {226, A::SuperSpin, 411, 431, false}, {227, A::SuperRush, 435, 432, false}, {266, A::Rush, 35, 10, false},
+     {226, A::SuperSpin, 411, 431, false}, {227, A::SuperRush, 435, 432, false}, {266, A::Rush, 35, 6, false},
      {267, A::Backfist, 8, 0, true}, {268, A::Sweep, 12, 0, false}, {269, A::SpinKick, 11, 0, false},
      {270, A::FlyingKick, 8, 0, false}, {273, A::SuperGrab, 410, 0, false}, {274, A::SuperGrab, 412, 0, true},
      {211, A::Sweep, 12, 0, false}},  // 4
     {{190, A::Blades, 7, 10, false}, {191, A::SuperBlades, 407, 431, false}, {192, A::SpinKick, 11, 0, false},
      {193, A::Sweep, 12, 0, true}, {194, A::FlyingKick, 8, 0, false}, {195, A::TwinKick, 4, 8, false},
-     {196, A::HeelDrop, 11, 0, false}, {226, A::Backfist, 7, 0, false}, {227, A::SuperSpin, 411, 431, false},
+     {196, A::HeelDrop, 11, 0, false}, {226, A::Backfist, 6, 0, false}, {227, A::SuperSpin, 411, 431, false},
      {266, A::Blades, 8, 12, false}, {267, A::SuperRush, 435, 431, false}, {268, A::Straight, 10, 0, false},
      {269, A::Uppercut, 20, 0, false}, {270, A::Rush, 35, 10, false}, {271, A::FlyingKnee, 10, 0, false},
      {272, A::FlyingKick, 7, 0, true}, {305, A::Charge, 10, 0, false}, {306, A::Uppercut, 20, 0, true},
@@ -105,7 +107,7 @@ constexpr Row kRows[15][kMaxRows] = {
      {197, A::Grab, 10, 0, false}, {226, A::SuperSpin, 411, 431, true}, {266, A::SpinKick, 11, 0, true},
      {267, A::Backfist, 8, 0, false}, {268, A::HeelDrop, 11, 0, false}, {269, A::Sweep, 12, 0, false},
      {270, A::Charge, 10, 0, false}, {273, A::SuperGrab, 410, 0, false}, {305, A::Blades, 7, 10, false}},  // 7
-    {{192, A::Charge, 10, 0, false}, {197, A::SuperGrab, 410, 0, false}, {198, A::Grab, 410, 0, true},
+    {{192, A::FlyingKnee, 10, 0, false}, {197, A::SuperGrab, 400, 0, false}, {198, A::Grab, 410, 0, true},
      {226, A::Straight, 10, 0, false}, {227, A::Rush, 35, 10, false}, {228, A::Uppercut, 20, 0, false},
      {266, A::SuperRush, 435, 432, false}, {273, A::SuperGrab, 410, 0, true}, {305, A::HeelDrop, 11, 0, false},
      {306, A::FlyingKnee, 10, 0, false}, {307, A::Sweep, 12, 0, false}},  // 8
@@ -324,6 +326,21 @@ std::vector<const Row*> Rows_Of(int character) {
   return out;
 }
 
+// True when a queued link leads into the action from one of the character's rushes: a queued
+// follow-up waits for the rush's last straight, which drives the opponent off.
+bool Follows_Rush(int character, int action) {
+  static const bool tables = (build_move_tables(), true);
+  (void)tables;
+  const std::vector<const Row*> rows = Rows_Of(character);
+  for (const ChainLink& link : MoveTables.Chain_Table[character]) {
+    if (link.running == NO_LINK) break;
+    if (link.next != action || link.queued == 0) continue;
+    for (const Row* row : rows)
+      if (row->action == link.running && row->arch == A::Rush) return true;
+  }
+  return false;
+}
+
 bool Has_Action(const std::vector<Move>& moves, int action) {
   for (const Move& m : moves)
     if (m.action == action) return true;
@@ -437,6 +454,7 @@ void Mv_CharacterMoves(int character, std::vector<Move>& out) {
     const int band = Mv_ReachBand(character, row.action);
     float target = band > 0 ? static_cast<float>(band) : kCloseReach;
     if (Mv_IsFollowUp(character, row.action)) target = std::max(target, kFollowReach);
+    if (Follows_Rush(character, row.action)) target = std::max(target, kAfterRushReach);
     Mv_FitLine(mv, character, Keep);
     Mv_FitReach(mv, character, target);
     Stride_Lunge(mv, row.mirror);
