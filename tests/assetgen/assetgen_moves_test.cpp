@@ -109,6 +109,14 @@ class OwnMoves : public test::TempDirTest {
     std::string anim = fig::Fig_AnimFile(c);
     Load(anim.c_str(), fig::Fig_SkeletonFile(c), (anim.substr(0, anim.find('.')) + ".tbl").c_str());
   }
+  // Loads character c as player 0 and builds its model; null when the model cannot be built.
+  std::unique_ptr<fig::Model> Load_WithModel(int c) {
+    Load_Character(c);
+    auto model = std::make_unique<fig::Model>();
+    fig::TextureLayout layout;
+    if (!fig::Fig_BuildModel(c, *model, layout)) return nullptr;
+    return model;
+  }
   bool real_shared_ = false;
 };
 
@@ -379,10 +387,8 @@ TEST_F(OwnMoves, AttacksReachTheDistancesTheComputerPlaysThemFrom) {
   for (int c = 0; c < fig::kCharacters; ++c) {
     SCOPED_TRACE(c);
     const std::vector<int> band = Computer_Far_Bands(c);
-    Load_Character(c);
-    auto model = std::make_unique<fig::Model>();
-    fig::TextureLayout layout;
-    ASSERT_TRUE(fig::Fig_BuildModel(c, *model, layout));
+    const std::unique_ptr<fig::Model> model = Load_WithModel(c);
+    ASSERT_TRUE(model);
     for (int a : own_actions(c)) {
       if (!is_special(a) && a != 241 && a != 242) continue;
       bool projectile = false;
@@ -408,10 +414,8 @@ TEST_F(OwnMoves, ARushsQueuedFollowUpReachesWhereTheRushDroveTheOpponent) {
   int checked = 0;
   for (int c = 0; c < fig::kCharacters; ++c) {
     SCOPED_TRACE(c);
-    Load_Character(c);
-    auto model = std::make_unique<fig::Model>();
-    fig::TextureLayout layout;
-    ASSERT_TRUE(fig::Fig_BuildModel(c, *model, layout));
+    const std::unique_ptr<fig::Model> model = Load_WithModel(c);
+    ASSERT_TRUE(model);
     for (const ChainLink& link : MoveTables.Chain_Table[c]) {
       if (link.running == NO_LINK) break;
       if (link.queued == 0 || link.running >= MAX_ACTIONS || !Strikes_With(link.running, 35)) continue;
@@ -447,10 +451,8 @@ TEST_F(OwnMoves, FallenFightersLieOnTheFloor) {
   if (!real_shared_) GTEST_SKIP() << "needs the generated shared motions";
   for (int c = 0; c < fig::kCharacters; ++c) {
     SCOPED_TRACE(c);
-    Load_Character(c);
-    auto model = std::make_unique<fig::Model>();
-    fig::TextureLayout layout;
-    ASSERT_TRUE(fig::Fig_BuildModel(c, *model, layout));
+    const std::unique_ptr<fig::Model> model = Load_WithModel(c);
+    ASSERT_TRUE(model);
     const Fighter& f = fighters[0];
     const float floor = Lowest(*model, f.act_first[0]);
     for (int a : {50, 51, 143, 144, 147, 148, 157, 158, 161, 162, 163, 164, 165, 166, 167, 171, 172, 173, 174, 175}) {
@@ -519,10 +521,8 @@ TEST_F(OwnMoves, StrikesCrossTheLineTheOpponentStandsOn) {
   constexpr float kBodyHalfWidth = 1.0f;  // the defender's trunk and widened boxes, sideways
   for (int c = 0; c < fig::kCharacters; ++c) {
     SCOPED_TRACE(c);
-    Load_Character(c);
-    auto model = std::make_unique<fig::Model>();
-    fig::TextureLayout layout;
-    ASSERT_TRUE(fig::Fig_BuildModel(c, *model, layout));
+    const std::unique_ptr<fig::Model> model = Load_WithModel(c);
+    ASSERT_TRUE(model);
     for (int a = 0; a < 600; ++a) {
       if (fighters[0].act_first[a] < 1 || (a >= 340 && a <= 479)) continue;
       const float off = Off_Line(*model, a);
