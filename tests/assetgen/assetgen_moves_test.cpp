@@ -14,6 +14,7 @@
 #include "assetgen.h"
 #include "assets/asset_anim.h"
 #include "assets/asset_table.h"
+#include "cpu/cpu_fixture.h"
 #include "camera/camera_path.h"
 #include "cpu/cpu.h"
 #include "cpu/cpu_private.h"
@@ -287,39 +288,6 @@ TEST_F(OwnMoves, EveryCharacterHasItsOwnGuardAndVictoryPoses) {
       EXPECT_GT(Apart(wins[i], wins[j]), 150) << "characters " << i / 2 << " and " << j / 2;
 }
 
-// Two bare fighters `sep` apart, both idle; fighter 1 is the computer playing `character`.
-void Computer_Facing(int character, float sep) {
-  static const Fighter blank{};
-  for (int i = 0; i < 2; ++i) {
-    fighters[i] = blank;
-    Fighter& f = fighters[i];
-    for (int a = 0; a < MAX_ACTIONS; ++a) {
-      f.act_first[a] = 10 + 12 * a;
-      f.act_last[a] = 10 + 12 * a + 11;
-    }
-    f.life = 85;
-    f.action = 22;
-    f.frame = f.act_first[22] + 5;
-    f.cmd_code = -1;
-    f.first_part = 2;
-    f.last_part = 16;
-    Players[i] = PlayerInput{};
-  }
-  fighters[0].yaw = fighters[0].face_yaw = 90;
-  fighters[1].yaw = fighters[1].face_yaw = 270;
-  Match = MatchState{};
-  Match.human[0] = 1;
-  Match.character[1] = character;
-  Match.clock_left = 6000;
-  Effects = EffectState{};
-  Cpu = CpuState{};
-  CpuMind = CpuMindState{};
-  Settings.difficulty = 2;
-  fighters[0].pos_x = Draw.Body_Centre[0][0] = -sep / 2;
-  fighters[1].pos_x = Draw.Body_Centre[1][0] = sep / 2;
-  update_distance();
-}
-
 // The special moves the computer playing `character` starts from 10 units or more and from 13
 // or more against a standing or crouching opponent, found by letting its routine choose over
 // many frames, stances, gauges and lives: band[action] is 10 or 13.
@@ -331,7 +299,7 @@ std::vector<int> Computer_Far_Bands(int character) {
         for (int gauge : {50, 150})
           for (int fc = 0; fc < 6; ++fc)
             for (int extra = 0; extra < 12; ++extra) {
-              Computer_Facing(character, sep);
+              test::Cpu_BareFighters(character, sep);
               frame_count = fc;
               fighters[1].stance = stance;
               fighters[1].gauge = gauge;

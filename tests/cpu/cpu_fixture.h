@@ -15,40 +15,47 @@
 
 namespace test {
 
+// Two bare fighters standing idle `sep` apart about the middle and facing each other, every
+// action twelve frames long: fighter 0 a player on the left, fighter 1 the computer playing
+// `character`.
+inline void Cpu_BareFighters(int character, float sep) {
+  static const Fighter blank{};
+  for (int i = 0; i < 2; ++i) {
+    fighters[i] = blank;
+    Fighter& f = fighters[i];
+    for (int a = 0; a < MAX_ACTIONS; ++a) {
+      f.act_first[a] = 10 + 12 * a;
+      f.act_last[a] = 10 + 12 * a + 11;
+    }
+    f.life = 85;
+    f.action = 22;
+    f.frame = f.act_first[22] + 5;
+    f.cmd_code = -1;
+    f.first_part = 2;
+    f.last_part = 16;
+    Players[i] = PlayerInput{};
+  }
+  fighters[0].yaw = fighters[0].face_yaw = 90;
+  fighters[1].yaw = fighters[1].face_yaw = 270;
+  Match = MatchState{};
+  Match.human[0] = 1;
+  Match.character[1] = character;
+  Match.clock_left = 6000;
+  Effects = EffectState{};
+  Cpu = CpuState{};
+  CpuMind = CpuMindState{};
+  Settings.difficulty = 2;
+  fighters[0].pos_x = Draw.Body_Centre[0][0] = -sep / 2;
+  fighters[1].pos_x = Draw.Body_Centre[1][0] = sep / 2;
+  update_distance();
+}
+
 class CpuFixture : public ::testing::Test {
  protected:
   void SetUp() override {
-    static const Fighter blank{};
-    for (int i = 0; i < 2; ++i) {
-      fighters[i] = blank;
-      Fighter& f = fighters[i];
-      for (int a = 0; a < MAX_ACTIONS; ++a) {
-        f.act_first[a] = 10 + 12 * a;
-        f.act_last[a] = 10 + 12 * a + 11;
-      }
-      f.life = 85;
-      f.gauge = 50;
-      f.action = 22;
-      f.frame = f.act_first[22] + 5;
-      f.cmd_code = -1;
-      f.first_part = 2;
-      f.last_part = 16;
-      Players[i] = PlayerInput{};
-    }
-    fighters[0].yaw = fighters[0].face_yaw = 90;
-    fighters[1].yaw = fighters[1].face_yaw = 270;
-    Match = MatchState{};
-    Match.human[0] = 1;
-    Match.character[0] = 0;
-    Match.character[1] = 0;
-    Match.clock = 0;
-    Match.clock_left = 6000;
-    Effects = EffectState{};
-    Cpu = CpuState{};
-    CpuMind = CpuMindState{};
-    Settings.difficulty = 2;
+    Cpu_BareFighters(0, 20.0f);
+    fighters[0].gauge = fighters[1].gauge = 50;
     frame_count = 0;
-    place(20.0f);
   }
   void TearDown() override {
     Match = MatchState{};
