@@ -147,12 +147,12 @@ class UndrawnStep : public ::testing::Test {
 
   // The fight from the saved start, drawn (the pacer never behind on the headless clock) or
   // stepped undrawn as the tournament steps it; the records after every frame.
-  std::vector<FrameHashes> play(bool drawn, Seen& seen) {
+  std::vector<FrameHashes> play(bool drawn, Seen& seen, int frames = kFrames) {
     restore(*start_);
     Set_FrameRate(65);
     std::vector<FrameHashes> out;
-    out.reserve(kFrames);
-    for (int i = 0; i < kFrames && Shell.GameMode == MODE_FIGHT; ++i) {
+    out.reserve(frames);
+    for (int i = 0; i < frames && Shell.GameMode == MODE_FIGHT; ++i) {
       if (++frame_count == 30000) frame_count = 0;
       if (drawn)
         Fight_Frame();
@@ -162,6 +162,16 @@ class UndrawnStep : public ::testing::Test {
       note(seen);
     }
     return out;
+  }
+
+  // The drawn and the undrawn run agree on every record after every frame.
+  static void expect_same(const std::vector<FrameHashes>& drawn,
+                          const std::vector<FrameHashes>& undrawn) {
+    ASSERT_EQ(drawn.size(), undrawn.size());
+    for (std::size_t i = 0; i < drawn.size(); ++i)
+      for (int r = 0; r < RECORDS; ++r)
+        ASSERT_EQ(drawn[i].h[r], undrawn[i].h[r])
+            << kRecordNames[r] << " differs after frame " << i + 1;
   }
 
   std::unique_ptr<Saved> start_;
@@ -175,12 +185,18 @@ TEST_F(UndrawnStep, PlaysTheDrawnFightFrameForFrame) {
   ASSERT_TRUE(drawn_seen.win_pose) << "the fight should reach the win pose";
   ASSERT_TRUE(drawn_seen.next_round) << "the fight should go on to a next round";
   ASSERT_TRUE(drawn_seen.effects) << "the fight should spawn effects";
-  const std::vector<FrameHashes> undrawn = play(false, undrawn_seen);
-  ASSERT_EQ(drawn.size(), undrawn.size());
-  for (std::size_t i = 0; i < drawn.size(); ++i)
-    for (int r = 0; r < RECORDS; ++r)
-      ASSERT_EQ(drawn[i].h[r], undrawn[i].h[r])
-          << kRecordNames[r] << " differs after frame " << i + 1;
+  expect_same(drawn, play(false, undrawn_seen));
+}
+
+// A deciding blow worth more than the life left: the bar shows no more drain than the life it
+// has, drawn or not.
+TEST_F(UndrawnStep, ABlowBeyondTheLastLifeDrainsAlike) {
+  fighters[1].damage = fighters[1].life + 9;
+  save(*start_);
+  Seen drawn_seen, undrawn_seen;
+  const std::vector<FrameHashes> drawn = play(true, drawn_seen, 300);
+  ASSERT_TRUE(drawn_seen.knock_out);
+  expect_same(drawn, play(false, undrawn_seen, 300));
 }
 
 }  // namespace
