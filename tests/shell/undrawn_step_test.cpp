@@ -27,45 +27,6 @@ namespace {
 constexpr int kFrames = 4000;  // a knock-out near 1850, the win pose near 2300, a next round
 constexpr int kLevel = 70;  // the tournament's computer level
 
-// Everything a fight frame reads and writes from one frame to the next.
-struct Saved {
-  Fighter fighters[2];
-  MatchState match;
-  EffectState effects;
-  HitState hits;
-  ReplayState replay;
-  PlayerInput players[2];
-  JoyState joy[2];
-  CpuState cpu;
-  CpuMindState mind;
-  SpacingState spacing;
-  MoveSave move;
-  FightCameraState camera;
-  FighterDraw draw;
-  ShellState shell;
-  std::int32_t frame_count;
-};
-
-void save(Saved& s) {
-  s.fighters[0] = fighters[0], s.fighters[1] = fighters[1];
-  s.match = Match, s.effects = Effects, s.hits = Hits, s.replay = Replay;
-  s.players[0] = Players[0], s.players[1] = Players[1];
-  s.joy[0] = Joy[0], s.joy[1] = Joy[1];
-  s.cpu = Cpu, s.mind = CpuMind, s.spacing = Spacing, s.camera = FightCamera, s.draw = Draw, s.shell = Shell;
-  s.frame_count = frame_count;
-  Move_Save(&s.move);
-}
-
-void restore(const Saved& s) {
-  fighters[0] = s.fighters[0], fighters[1] = s.fighters[1];
-  Match = s.match, Effects = s.effects, Hits = s.hits, Replay = s.replay;
-  Players[0] = s.players[0], Players[1] = s.players[1];
-  Joy[0] = s.joy[0], Joy[1] = s.joy[1];
-  Cpu = s.cpu, CpuMind = s.mind, Spacing = s.spacing, FightCamera = s.camera, Draw = s.draw, Shell = s.shell;
-  frame_count = s.frame_count;
-  Move_Restore(s.move);
-}
-
 // The records compared after every frame, each hashed on its own so that a mismatch names it.
 enum Record { FIGHTER_0, FIGHTER_1, MATCH, EFFECTS, HITS, REPLAY, CPU, CAMERA, CENTRES, RECORDS };
 constexpr const char* kRecordNames[RECORDS] = {
@@ -137,8 +98,8 @@ class UndrawnStep : public ::testing::Test {
     frame_count = 0;
     Input_Init();
     Shell.WhiteFrames = 0;
-    start_ = std::make_unique<Saved>();
-    save(*start_);
+    start_ = std::make_unique<sim::Saved>();
+    sim::save(*start_);
   }
   void TearDown() override {
     Headless_ResetInput();
@@ -148,7 +109,7 @@ class UndrawnStep : public ::testing::Test {
   // The fight from the saved start, drawn (the pacer never behind on the headless clock) or
   // stepped undrawn as the tournament steps it; the records after every frame.
   std::vector<FrameHashes> play(bool drawn, Seen& seen, int frames = kFrames) {
-    restore(*start_);
+    sim::restore(*start_);
     Set_FrameRate(65);
     std::vector<FrameHashes> out;
     out.reserve(frames);
@@ -174,7 +135,7 @@ class UndrawnStep : public ::testing::Test {
             << kRecordNames[r] << " differs after frame " << i + 1;
   }
 
-  std::unique_ptr<Saved> start_;
+  std::unique_ptr<sim::Saved> start_;
   std::string old_dir_;
 };
 
@@ -192,7 +153,7 @@ TEST_F(UndrawnStep, PlaysTheDrawnFightFrameForFrame) {
 // has, drawn or not.
 TEST_F(UndrawnStep, ABlowBeyondTheLastLifeDrainsAlike) {
   fighters[1].damage = fighters[1].life + 9;
-  save(*start_);
+  sim::save(*start_);
   Seen drawn_seen, undrawn_seen;
   const std::vector<FrameHashes> drawn = play(true, drawn_seen, 300);
   ASSERT_TRUE(drawn_seen.knock_out);
