@@ -44,6 +44,13 @@ void coin_and_start() {
   }
 }
 
+// The fight's update and the camera's; while a challenger's banner runs the fight is frozen.
+void update_unless_challenged() {
+  if (Match.challenger != 0) return;
+  Fight_Update();
+  UpdateFightCamera();
+}
+
 }  // namespace
 
 void System_Keys() {
@@ -107,9 +114,7 @@ void Run_Frame() {
 
 void Fight_Frame() {
   Fight_Draw();
-  if (Match.challenger != 0) return;  // a challenger's banner runs: drawn but frozen
-  Fight_Update();
-  UpdateFightCamera();
+  update_unless_challenged();
 }
 
 void Challenger_Step() {
@@ -233,7 +238,5 @@ void Fight_Step(int as_drawn) {
   else
     place_undrawn();
   run_clock();
-  if (Match.challenger != 0) return;  // frozen while a challenger's notice runs
-  Fight_Update();
-  UpdateFightCamera();
+  update_unless_challenged();
 }
