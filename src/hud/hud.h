@@ -13,6 +13,9 @@
 // after the delay, the power gauge fills and empties toward its target.
 void DrainGauges();
 
+// What DrawHudBase changes: a bar never drains more than its life (damage is cut to life).
+void RunHudBase();
+
 // Behind the fighters: life-bar frames and bars, the round clock, name plates, round-win marks
 // and the top line. Leaves the sprite layer at -100.
 void DrawHudBase();
@@ -22,6 +25,9 @@ void DrawHudBase();
 // on every way out. Also counts combo_show, the banners and the challenger notice down, and
 // ends a challenger interruption when its notice has run out.
 void DrawHudMessages();
+// Everything DrawHudMessages counts, with nothing drawn: for a fight frame stepped as drawn
+// without its picture.
+void RunHudMessages();
 
 // The record-time message for time-ranking place `rank_index` + 1 (0..4): the words, the
 // place and the winning time in seconds and hundredths.

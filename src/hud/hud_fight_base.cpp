@@ -49,9 +49,8 @@ float life_scale() { return kLifeScale[std::clamp(Match.life_setting, 1, 3) - 1]
 
 // Green for what is left, yellow for what is still draining; both cut to whole units.
 void draw_life_bar(int i) {
-  Fighter& f = fighters[i];
+  const Fighter& f = fighters[i];
   if (f.life <= 0) return;
-  if (f.damage > f.life) f.damage = f.life;
   const float k = life_scale();
   const int whole = static_cast<int>(static_cast<float>(f.life) * k);
   const int left = static_cast<int>(static_cast<float>(f.life - f.damage) * k);
@@ -146,7 +145,14 @@ void DrainGauges() {
   drain_one(fighters[1]);
 }
 
+// A bar shows no more drain than it has life left to lose.
+void RunHudBase() {
+  for (Fighter& f : fighters)
+    if (f.life > 0 && f.damage > f.life) f.damage = f.life;
+}
+
 void DrawHudBase() {
+  RunHudBase();
   SpriteDraw.Layer_Z = kBackLayer;
   draw_life_frames();
   draw_life_bar(0);

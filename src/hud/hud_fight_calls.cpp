@@ -109,18 +109,17 @@ void draw_verdict() {
   }
 }
 
-// The challenger notice runs for its phase count, then the select screen takes over.
-void run_challenger_notice() {
+}  // namespace
+
+void hud::Run_ChallengerNotice(bool drawn) {
   --Match.challenger_phase;
-  Draw_RasterL(SPR_CHALLENGER, 76, 101);
+  if (drawn) Draw_RasterL(SPR_CHALLENGER, 76, 101);
   if (Match.challenger_phase <= 0) Challenger_Step();
 }
 
-}  // namespace
-
 void hud::Draw_Message() {
   if (Match.challenger != 0) {
-    run_challenger_notice();
+    Run_ChallengerNotice(true);
   } else if (closing_replay()) {
     if (frame_count % 20 < 12) Draw_Raster(SPR_REPLAY, 344, 321);
   } else if (Match.after_ko != 0) {

@@ -67,11 +67,11 @@ void draw_combo(int i) {
 // One frame of a banner on `side` (1 left, 2 right): it stands, slides out, and when its run
 // is over `side` becomes `ended`.
 void run_banner(std::int32_t& side, std::int32_t& frame, int sprite, const BannerPlace* places,
-                int ended) {
+                int ended, bool drawn) {
   const BannerPlace& p = places[side == 2 ? 1 : 0];
   ++frame;
   const int x = frame <= kBannerHold ? p.x : p.slide_base + p.slide_sign * kSlideStep * frame;
-  Draw_Raster(sprite, x, kBannerY);
+  if (drawn) Draw_Raster(sprite, x, kBannerY);
   if (frame >= kBannerFrames) {
     side = ended;
     frame = 0;
@@ -80,20 +80,27 @@ void run_banner(std::int32_t& side, std::int32_t& frame, int sprite, const Banne
 
 // A combo on screen takes the place of the banners; the first-strike banner stands before the
 // reversal banner.
-void draw_combo_or_banner() {
+void combo_or_banner(bool drawn) {
   for (int i = 0; i < 2; ++i) {
     if (fighters[i].combo >= 2) {
       Match.first_strike = -1;  // a combo has been shown: no first-strike banner this round
-      draw_combo(i);
+      if (drawn) draw_combo(i);
       return;
     }
   }
   if (Match.first_strike >= 1) {
     run_banner(Match.first_strike, Match.first_strike_frame, SPR_FIRST_STRIKE, kFirstStrikePlace,
-               -1);
+               -1, drawn);
   } else if (Match.reversal >= 1) {
-    run_banner(Match.reversal, Match.reversal_frame, SPR_REVERSAL, kReversalPlace, 0);
+    run_banner(Match.reversal, Match.reversal_frame, SPR_REVERSAL, kReversalPlace, 0, drawn);
   }
+}
+
+// The display's counters, drawn or not: combo_show runs down, then the combo or a banner.
+void run_counters(bool drawn) {
+  for (Fighter& f : fighters)
+    if (f.combo_show > 0) --f.combo_show;
+  if (!win_pose_running()) combo_or_banner(drawn);
 }
 
 void draw_key_change() {
@@ -114,9 +121,7 @@ void DrawHudMessages() {
     glEnable(GL_DEPTH_TEST);
     return;
   }
-  for (Fighter& f : fighters)
-    if (f.combo_show > 0) --f.combo_show;
-  if (!win_pose_running()) draw_combo_or_banner();
+  run_counters(true);
   draw_key_change();
   if (!closing_replay() && !win_pose_running()) {
     Draw_RasterL(SPR_POWER_FRAME, 11, 215);
@@ -126,4 +131,10 @@ void DrawHudMessages() {
   Draw_Message();
   SpriteDraw.Layer_Z = kBackLayer;
   glEnable(GL_DEPTH_TEST);
+}
+
+void RunHudMessages() {
+  if (Match.demo == 1) return;
+  run_counters(false);
+  if (Match.challenger != 0) Run_ChallengerNotice(false);
 }

@@ -80,5 +80,8 @@ GaugeFill Power_Fill(int fighter);
 
 // The round call, FIGHT and the end-of-round messages: the one message of the moment.
 void Draw_Message();
+// One frame of the challenger notice (drawn when `drawn`): its phase counts down and, when it
+// has run out, the select screen takes over (Challenger_Step).
+void Run_ChallengerNotice(bool drawn);
 
 }  // namespace hud

@@ -101,16 +101,20 @@ void Clear_Projectiles();
 // Starts the glow ring around (x, y, z) in the given colour.
 void Start_GlowRing(float x, float y, float z, int colour);
 
-// The projectiles' flight of one frame without drawing them, for a fight stepped without
-// drawing (the effect pass flies them otherwise).
-void Fly_Projectiles();
-
 // ---- the pass (the fight frame) ------------------------------------------------------------
-// Once per drawn fight frame, after the fighters (not while the win pose runs).
+// Once per drawn fight frame, after the fighters (not while the win pose runs): draws every
+// effect as it stands, then runs Step_Effects.
 void Draw_Effects();
+// The effects' frame without drawing: hit effects age and retire, projectiles fly (leaving
+// dust) unless the fight is held, sparks fly and fade, body-part effects run their phases.
+// The fight reads what this leaves (free slots, part_fx_on), so a frame stepped without
+// drawing runs it too.
+void Step_Effects();
 // The stage pass's glow step: while the ring runs, draws it when either fighter is in a super
-// move, then advances its counter; it stops after 16 frames.
+// move, then runs Step_GlowRing.
 void Run_GlowRing();
+// Advances a running glow ring's counter; it stops after 16 frames.
+void Step_GlowRing();
 
 // ---- drawing primitives --------------------------------------------------------------------
 // Each binds TextureId[slot] and draws nothing when the centre lies less than 1.0 in front of

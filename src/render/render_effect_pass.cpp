@@ -77,19 +77,24 @@ void draw_hit(int i, const HitLook& look, int f) {
   Draw_EffectBillboard(i, slot, hit_size(look, f));
 }
 
-// A slot that is not drawn (still waiting, or an unknown kind) is held against the lifetime of
-// the last slot drawn before it in the pass; a waiting one is never retired before its first
+void draw_hit_effects() {
+  for (int i = 0; i < HIT_EFFECTS; ++i) {
+    const HitEffect& e = Effects.Hit_Effect[i];
+    if (e.active && e.frame >= 0 && e.kind >= 0 && e.kind < HIT_KINDS)
+      draw_hit(i, kHitLooks[e.kind], e.frame);
+  }
+}
+
+// A slot that is not shown (still waiting, or an unknown kind) is held against the lifetime of
+// the last slot shown before it in the pass; a waiting one is never retired before its first
 // picture.
-void run_hit_effects() {
+void age_hit_effects() {
   int limit = 0;
   for (int i = 0; i < HIT_EFFECTS; ++i) {
     HitEffect& e = Effects.Hit_Effect[i];
     if (!e.active) continue;
     const bool shown = e.frame >= 0 && e.kind >= 0 && e.kind < HIT_KINDS;
-    if (shown) {
-      draw_hit(i, kHitLooks[e.kind], e.frame);
-      limit = kHitLooks[e.kind].life;
-    }
+    if (shown) limit = kHitLooks[e.kind].life;
     e.frame += 1;
     if (e.frame >= limit && (shown || e.frame > 0)) e.active = 0;
   }
@@ -176,25 +181,30 @@ bool projectiles_frozen() {
   return Match.hit_stop > 0 || fighters[0].freeze_other || fighters[1].freeze_other;
 }
 
-void run_projectiles() {
-  const bool frozen = projectiles_frozen();
-  for (ProjectileSlot& p : Effects.Projectile) {
-    if (!p.active) continue;
-    draw_projectile(p);
-    if (!frozen) fly(p);
-  }
+void draw_projectiles() {
+  for (const ProjectileSlot& p : Effects.Projectile)
+    if (p.active) draw_projectile(p);
+}
+
+void fly_projectiles() {
+  if (projectiles_frozen()) return;
+  for (ProjectileSlot& p : Effects.Projectile)
+    if (p.active) fly(p);
 }
 
 // ---- sparks --------------------------------------------------------------------------------
 constexpr float kSparkSize = 0.5f;
 
-void run_sparks() {
+void draw_sparks() {
   Set_DrawMode(46);
   Blend_Glow();
-  for (int k = 0; k < SPARKS; ++k) {
-    Spark& s = Effects.Sparks[k];
+  for (int k = 0; k < SPARKS; ++k)
+    if (Effects.Sparks[k].active) Draw_SparkBillboard(k, SLOT_SPARK, kSparkSize);
+}
+
+void fly_sparks() {
+  for (Spark& s : Effects.Sparks) {
     if (!s.active) continue;
-    Draw_SparkBillboard(k, SLOT_SPARK, kSparkSize);
     s.x += s.vx;
     s.y += s.vy;
     s.z += s.vz;
@@ -228,20 +238,36 @@ bool keeps_burning(const Fighter& f, int p, int kind, int period) {
   return reason && f.frame < f.act_last[action] - period;
 }
 
-void run_part_effect(Fighter& f, int p) {
+bool known_part_kind(int kind) { return kind >= 0 && kind <= 2; }
+
+void draw_part_effect(const Fighter& f, int p) {
   const int kind = f.part_fx_kind[p];
-  if (kind < 0 || kind > 2) {
+  const int phase = f.part_fx_phase[p];
+  if (!known_part_kind(kind) || phase < 0) return;
+  const PartLook& look = kPartLooks[kind];
+  const float cx = (f.part_box[BOX_X_MIN][p] + f.part_box[BOX_X_MAX][p]) / 2.0f;
+  const float cy = (f.part_box[BOX_Y_MIN][p] + f.part_box[BOX_Y_MAX][p]) / 2.0f;
+  const float cz = (f.part_box[BOX_Z_MIN][p] + f.part_box[BOX_Z_MAX][p]) / 2.0f;
+  Draw_Billboard(look.slot + phase % kFlipBook, look.size, cx, cy, cz, f.yaw);
+}
+
+void draw_part_effects() {
+  Set_DrawMode(43);
+  Blend_Glow();
+  for (const Fighter& f : fighters)
+    for (int p = 0; p < FX_PARTS; ++p)
+      if (f.part_fx_on[p]) draw_part_effect(f, p);
+}
+
+// A negative phase is a delay: it counts up to the first picture.
+void age_part_effect(Fighter& f, int p) {
+  const int kind = f.part_fx_kind[p];
+  if (!known_part_kind(kind)) {
     f.part_fx_on[p] = 0;
     return;
   }
   const PartLook& look = kPartLooks[kind];
   std::int32_t& phase = f.part_fx_phase[p];
-  if (phase >= 0) {
-    const float cx = (f.part_box[BOX_X_MIN][p] + f.part_box[BOX_X_MAX][p]) / 2.0f;
-    const float cy = (f.part_box[BOX_Y_MIN][p] + f.part_box[BOX_Y_MAX][p]) / 2.0f;
-    const float cz = (f.part_box[BOX_Z_MIN][p] + f.part_box[BOX_Z_MAX][p]) / 2.0f;
-    Draw_Billboard(look.slot + phase % kFlipBook, look.size, cx, cy, cz, f.yaw);
-  }
   phase += 1;
   if (phase < look.period) return;
   if (look.loops && keeps_burning(f, p, kind, look.period))
@@ -250,12 +276,10 @@ void run_part_effect(Fighter& f, int p) {
     f.part_fx_on[p] = 0;
 }
 
-void run_part_effects() {
-  Set_DrawMode(43);
-  Blend_Glow();
+void age_part_effects() {
   for (Fighter& f : fighters)
     for (int p = 0; p < FX_PARTS; ++p)
-      if (f.part_fx_on[p]) run_part_effect(f, p);
+      if (f.part_fx_on[p]) age_part_effect(f, p);
 }
 
 constexpr int kChargeAction = 599;
@@ -265,7 +289,8 @@ constexpr float kChargeSize = 15.0f;
 }  // namespace
 
 // Everything but the sparks is drawn in the current colour, opaque white through a fight, so
-// the pictures replace it rather than modulate it; the sparks bring greys of their own.
+// the pictures replace it rather than modulate it; the sparks bring greys of their own. What is
+// drawn is the state before this frame's step, which follows.
 void Draw_Effects() {
   Set_DrawMode(41);
   Blend_Glow();
@@ -273,25 +298,34 @@ void Draw_Effects() {
   for (int i = 0; i < 2; ++i)
     if (fighters[i].action == kChargeAction)
       Draw_FighterFloorQuad(i, SLOT_CHARGE_FLASH + frame_count % kChargeFrames, kChargeSize);
-  run_hit_effects();
-  run_projectiles();
+  draw_hit_effects();
+  draw_projectiles();
   Replace_Off(replace);
-  run_sparks();
+  draw_sparks();
   replace = Replace_On();
-  run_part_effects();
+  draw_part_effects();
   Replace_Off(replace);
+  Step_Effects();
+}
+
+// Hit effects age before the projectiles fly, so the dust a projectile leaves this frame is
+// first aged on the next.
+void Step_Effects() {
+  age_hit_effects();
+  fly_projectiles();
+  fly_sparks();
+  age_part_effects();
 }
 
 void Run_GlowRing() {
-  GlowRing& g = Effects.Glow_Ring;
-  if (!g.running) return;
-  if (fighters[0].super_mode || fighters[1].super_mode) Draw_GlowRing(g);
-  g.counter += 1;
-  if (g.counter >= GLOW_RING_FRAMES) g.running = 0;
+  const GlowRing& g = Effects.Glow_Ring;
+  if (g.running && (fighters[0].super_mode || fighters[1].super_mode)) Draw_GlowRing(g);
+  Step_GlowRing();
 }
 
-void Fly_Projectiles() {
-  if (projectiles_frozen()) return;
-  for (ProjectileSlot& p : Effects.Projectile)
-    if (p.active) fly(p);
+void Step_GlowRing() {
+  GlowRing& g = Effects.Glow_Ring;
+  if (!g.running) return;
+  g.counter += 1;
+  if (g.counter >= GLOW_RING_FRAMES) g.running = 0;
 }

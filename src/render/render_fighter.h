@@ -83,8 +83,13 @@ void Run_ImpactTimer();
 // faces or fading: a fighter shown off in a front-end scene.
 void Draw_Showcase(int player);
 // The fight's character pass: flexible swings, placement, shadows, meshes and chains in the
-// order the fight's state asks for, then the effect pass unless the win pose runs.
+// order the fight's state asks for, then the effect pass unless the win pose runs. While the
+// winner poses, the beaten fighter is held lying (action 50).
 void Draw_Fighters();
+// The same pass with nothing drawn, for a fight frame stepped as drawn without its picture:
+// every state change of Draw_Fighters (swings, placement and part boxes, chains, the impact
+// timer, the loser held lying, Step_Effects) in the same order.
+void Step_Fighters();
 
 // ---- the flexible part -------------------------------------------------------------------
 // Starts the swing: strength 2 gives amplitude 70, 3 gives 80, anything else 60.

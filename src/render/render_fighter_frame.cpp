@@ -16,16 +16,33 @@ constexpr int kFlexDies = 30;
 
 bool valid_player(int player) { return player == 0 || player == 1; }
 
-void place_and_shadow(int player) {
+// The character pass runs drawn or, for a frame stepped without drawing, with the shadows and
+// meshes left out; everything else the pass does (placement, chains, the impact timer each
+// mesh runs down, the loser held lying, the effects) happens the same way in both.
+void place(int player, bool drawn) {
   Place_Fighter(player);
-  Draw_Shadow(player);
+  if (drawn) Draw_Shadow(player);
+}
+
+void mesh(int player, bool drawn) {
+  if (drawn)
+    Draw_Mesh(player);
+  else
+    Run_ImpactTimer();
+}
+
+void effects(bool drawn) {
+  if (drawn)
+    Draw_Effects();
+  else
+    Step_Effects();
 }
 
 // The whole of one fighter, its chains first (they then match this frame's pose).
-void draw_alone(int player) {
+void alone(int player, bool drawn) {
   Update_Attachments(player);
-  place_and_shadow(player);
-  Draw_Mesh(player);
+  place(player, drawn);
+  mesh(player, drawn);
 }
 
 // The ordinary fight: both placed first, both meshes, then the chains (whose matrices the
@@ -35,44 +52,53 @@ bool ordinary_fight() {
   return !ko_over && Match.intro == -1 && Match.fight_call == 0 && Match.demo != 1;
 }
 
-}  // namespace
+// While the winner poses, the beaten fighter lies still, whatever its own action did.
+void hold_loser_lying(int winner) {
+  Fighter& loser = fighters[opponent(winner)];
+  loser.action = kLyingAction;
+  loser.frame = loser.act_first[kLyingAction];
+}
 
-void Draw_Fighters() {
+void character_pass(bool drawn) {
   for (int p = 0; p < 2; ++p)
     if (fighters[p].model_flag) Step_Flex(p);
   if (Shell.GameMode == MODE_CONTINUE) {
     const int loser = opponent(Match.winner == 1 ? 1 : 0);
-    place_and_shadow(loser);
-    Draw_Mesh(loser);
+    place(loser, drawn);
+    mesh(loser, drawn);
     Update_Attachments(loser);
-    Draw_Effects();
+    effects(drawn);
     return;
   }
   if (Match.win_pose_count >= 1) {
     const int winner = Match.winner == 1 ? 1 : 0;
-    Fighter& loser = fighters[opponent(winner)];
-    loser.action = kLyingAction;
-    loser.frame = loser.act_first[kLyingAction];
-    draw_alone(winner);
+    hold_loser_lying(winner);
+    alone(winner, drawn);
     return;  // no effects during the win pose
   }
   if (ordinary_fight()) {
-    place_and_shadow(0);
-    place_and_shadow(1);
-    Draw_Mesh(0);
-    Draw_Mesh(1);
+    place(0, drawn);
+    place(1, drawn);
+    mesh(0, drawn);
+    mesh(1, drawn);
     Update_Attachments(0);
     Update_Attachments(1);
   } else {
     Update_Attachments(0);
-    place_and_shadow(0);
+    place(0, drawn);
     Update_Attachments(1);
-    place_and_shadow(1);
-    Draw_Mesh(0);
-    Draw_Mesh(1);
+    place(1, drawn);
+    mesh(0, drawn);
+    mesh(1, drawn);
   }
-  Draw_Effects();
+  effects(drawn);
 }
+
+}  // namespace
+
+void Draw_Fighters() { character_pass(true); }
+
+void Step_Fighters() { character_pass(false); }
 
 void Start_Flex(int player, int strength, int direction) {
   if (!valid_player(player)) return;

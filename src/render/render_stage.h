@@ -76,8 +76,11 @@ void Load_SmallFloor(const char* name);  // one 12 x 12 square, for a front-end 
 // Drawing. Every pass needs Set_View first (Draw_Stage calls it).
 void Draw_Stage();
 // The super move's flash, one frame: the stage darkens by 15 a frame, stays dark three frames
-// and brightens by 10 a frame (Draw_Stage runs it; a fight stepped without drawing calls it).
+// and brightens by 10 a frame (Draw_Stage runs it).
 void Step_SuperFlash();
+// What Draw_Stage changes besides the picture, for a fight frame stepped without drawing: the
+// view, the super move's flash and the glow ring's counter.
+void Step_Stage();
 void Draw_Floor();
 void Draw_LightPool();
 void Draw_Backdrop();

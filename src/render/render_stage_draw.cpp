@@ -176,6 +176,12 @@ void Draw_Stage() {
   Run_GlowRing();
 }
 
+void Step_Stage() {
+  Set_View();
+  Step_SuperFlash();
+  Step_GlowRing();
+}
+
 // The super-move flash: darkening by 15 a frame, three dark frames, brightening by 10.
 void Step_SuperFlash() {
   std::int32_t& state = Match.flash_state;

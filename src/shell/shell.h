@@ -65,8 +65,9 @@ void Fight_Frame();
 void Fight_Draw();
 void Challenger_Step();
 // One fight frame without the pacer and without a picture: poses and part boxes, the round
-// clock, the fight update and the camera. With `as_drawn` 0 it runs as a frame behind schedule;
-// with 1 it also moves on what a drawn frame advances besides its pictures (the super flash,
-// the bars' drain, the time-over step, the projectiles' flight), so a long run without
-// pictures plays like a drawn one.
+// clock, the fight update and the camera (held, like Fight_Frame's, while a challenger's notice
+// runs). With `as_drawn` 0 it runs as a frame behind schedule; with 1 it runs every state
+// change of a drawn frame through the same steps the drawing takes (white frames, the stage's
+// flash and glow ring, the bars, the character pass and effects, the display's counters), so a
+// run without pictures plays frame for frame like a drawn run that skips no frame.
 void Fight_Step(int as_drawn);

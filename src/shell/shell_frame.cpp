@@ -44,6 +44,13 @@ void coin_and_start() {
   }
 }
 
+// The fight's update and the camera's; while a challenger's banner runs the fight is frozen.
+void update_unless_challenged() {
+  if (Match.challenger != 0) return;
+  Fight_Update();
+  UpdateFightCamera();
+}
+
 }  // namespace
 
 void System_Keys() {
@@ -107,9 +114,7 @@ void Run_Frame() {
 
 void Fight_Frame() {
   Fight_Draw();
-  if (Match.challenger != 0) return;  // a challenger's banner runs: drawn but frozen
-  Fight_Update();
-  UpdateFightCamera();
+  update_unless_challenged();
 }
 
 void Challenger_Step() {
@@ -140,23 +145,65 @@ bool hud_base_shown() {
   return !closing && Match.win_pose_count == 0 && Match.demo != 1;
 }
 
-void draw_fight_picture() {
-  // The stage covers the whole screen, so the colour buffer is not cleared.
-  Clear_Depth();
-  Draw_Stage();
+// The picture of a fight frame in its order: stage, bars, fighters with their effects,
+// messages. The passes change fight state as they go (the flash, the drained bars, the part
+// boxes, the effects, the display's counters); a frame stepped as drawn without its picture
+// (`drawn` false) runs the same changes in the same order and draws nothing.
+void fight_picture(bool drawn) {
+  if (drawn) {
+    Clear_Depth();  // the stage covers the whole screen, so the colour buffer is not cleared
+    Draw_Stage();
+  } else {
+    Step_Stage();
+  }
   DrainGauges();
   if (hud_base_shown()) {
     resolve_time_over();
-    Set_DrawMode(40);
-    DrawHudBase();
+    if (drawn) {
+      Set_DrawMode(40);
+      DrawHudBase();
+    } else {
+      RunHudBase();
+    }
   }
-  Draw_Fighters();  // with the effect pass
-  Set_DrawMode(40);
-  DrawHudMessages();  // also runs out a challenger's notice
+  if (drawn)
+    Draw_Fighters();  // with the effect pass
+  else
+    Step_Fighters();
+  if (drawn) {
+    Set_DrawMode(40);
+    DrawHudMessages();  // also runs out a challenger's notice
+  } else {
+    RunHudMessages();
+  }
+}
+
+// A white frame shows nothing of the fight and counts the white frames down.
+void white_frame(bool drawn) {
+  if (drawn) {
+    Clear_Screen(255, 255, 255);
+    Clear_Depth();
+  }
+  --Shell.WhiteFrames;
+  if (drawn) Swap_Buffers();
+}
+
+// The first picture of a round is made but not shown.
+void present(bool drawn) {
   if (Shell.SkipPresent == 1)
     Shell.SkipPresent = 0;
-  else
+  else if (drawn)
     Swap_Buffers();
+}
+
+// One frame's picture, or its state changes alone.
+void picture(bool drawn) {
+  if (Shell.WhiteFrames >= 1) {
+    white_frame(drawn);
+    return;
+  }
+  fight_picture(drawn);
+  present(drawn);
 }
 
 // Frames that are not drawn still place the fighters, so that the hit tests see their boxes.
@@ -176,30 +223,20 @@ void run_clock() {
 void Fight_Draw() {
   Pose_Fighter(0);
   Pose_Fighter(1);
-  if (!Pacer_Due()) {  // behind schedule: simulated, not drawn
-    place_undrawn();
-  } else if (Shell.WhiteFrames >= 1) {
-    Clear_Screen(255, 255, 255);
-    Clear_Depth();
-    --Shell.WhiteFrames;
-    Swap_Buffers();
-  } else {
-    draw_fight_picture();
-  }
+  if (Pacer_Due())
+    picture(true);
+  else
+    place_undrawn();  // behind schedule: simulated, not drawn
   run_clock();
 }
 
 void Fight_Step(int as_drawn) {
   Pose_Fighter(0);
   Pose_Fighter(1);
-  place_undrawn();
-  if (as_drawn) {
-    Step_SuperFlash();  // moved on by the stage drawing
-    DrainGauges();
-    if (hud_base_shown()) resolve_time_over();
-    Fly_Projectiles();  // moved on by the effect pass
-  }
+  if (as_drawn)
+    picture(false);
+  else
+    place_undrawn();
   run_clock();
-  Fight_Update();
-  UpdateFightCamera();
+  update_unless_challenged();
 }

@@ -19,41 +19,6 @@ namespace {
 
 constexpr int kFrames = 1500;
 
-// Everything the fight reads and writes from one frame to the next.
-struct Saved {
-  Fighter fighters[2];
-  MatchState match;
-  EffectState effects;
-  HitState hits;
-  ReplayState replay;
-  PlayerInput players[2];
-  JoyState joy[2];
-  CpuState cpu;
-  SpacingState spacing;
-  MoveSave move;
-  std::int32_t frame_count;
-};
-
-void save(Saved& s) {
-  s.fighters[0] = fighters[0], s.fighters[1] = fighters[1];
-  s.match = Match, s.effects = Effects, s.hits = Hits, s.replay = Replay;
-  s.players[0] = Players[0], s.players[1] = Players[1];
-  s.joy[0] = Joy[0], s.joy[1] = Joy[1];
-  s.cpu = Cpu, s.frame_count = frame_count;
-  s.spacing = Spacing;
-  Move_Save(&s.move);
-}
-
-void restore(const Saved& s) {
-  fighters[0] = s.fighters[0], fighters[1] = s.fighters[1];
-  Match = s.match, Effects = s.effects, Hits = s.hits, Replay = s.replay;
-  Players[0] = s.players[0], Players[1] = s.players[1];
-  Joy[0] = s.joy[0], Joy[1] = s.joy[1];
-  Cpu = s.cpu, frame_count = s.frame_count;
-  Spacing = s.spacing;
-  Move_Restore(s.move);
-}
-
 class Determinism : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -70,15 +35,15 @@ class Determinism : public ::testing::Test {
 
   // The match from its first fight frame, played for `frames` frames; the hash of every frame.
   static std::vector<std::uint64_t> play(int frames) {
-    static std::unique_ptr<Saved> start;
+    static std::unique_ptr<sim::Saved> start;
     if (!start) {  // the first time: the round as the loader and the round start leave it
-      start = std::make_unique<Saved>();
+      start = std::make_unique<sim::Saved>();
       frame_count = 0;
       Headless_ResetInput();
       Input_Init();
-      save(*start);
+      sim::save(*start);
     }
-    restore(*start);
+    sim::restore(*start);
     Headless_ResetInput();
     std::vector<std::uint64_t> hashes;
     for (int i = 0; i < frames; ++i) {
@@ -106,15 +71,15 @@ TEST_F(Determinism, TheSameKeysGiveTheSameFightEveryFrame) {
 TEST_F(Determinism, ARestoredFightPlaysOnAsBefore) {
   constexpr int kSaveAt = 400;
   const std::vector<std::uint64_t> first = play(kSaveAt);
-  auto saved = std::make_unique<Saved>();
-  save(*saved);
+  auto saved = std::make_unique<sim::Saved>();
+  sim::save(*saved);
   std::vector<std::uint64_t> onward;
   for (int i = kSaveAt; i < kFrames; ++i) {
     sim::press_pattern(i);
     sim::step();
     onward.push_back(sim::hash_state());
   }
-  restore(*saved);
+  sim::restore(*saved);
   for (int i = kSaveAt; i < kFrames; ++i) {
     sim::press_pattern(i);
     sim::step();

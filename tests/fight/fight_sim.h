@@ -10,6 +10,13 @@
 
 #include "assets/asset_anim.h"
 #include "assets/asset_character.h"
+#include "camera/camera_fight.h"
+#include "cpu/cpu.h"
+#include "cpu/cpu_private.h"
+#include "fight/fight_hit.h"
+#include "fight/fight_replay.h"
+#include "render/render_effect.h"
+#include "render/render_fighter.h"
 #include "render/render_math.h"
 #include "fight/fight.h"
 #include "fight/fight_state.h"
@@ -90,6 +97,45 @@ inline std::uint64_t hash_state() {
             offsetof(Fighter, attach) - offsetof(Fighter, root_track));
   }
   return fnv(h, &Match, sizeof Match);
+}
+
+// Everything a fight frame reads and writes from one frame to the next, drawn or not.
+struct Saved {
+  Fighter fighters[2];
+  MatchState match;
+  EffectState effects;
+  HitState hits;
+  ReplayState replay;
+  PlayerInput players[2];
+  JoyState joy[2];
+  CpuState cpu;
+  CpuMindState mind;
+  SpacingState spacing;
+  MoveSave move;
+  FightCameraState camera;
+  FighterDraw draw;
+  ShellState shell;
+  std::int32_t frame_count;
+};
+
+inline void save(Saved& s) {
+  s.fighters[0] = fighters[0], s.fighters[1] = fighters[1];
+  s.match = Match, s.effects = Effects, s.hits = Hits, s.replay = Replay;
+  s.players[0] = Players[0], s.players[1] = Players[1];
+  s.joy[0] = Joy[0], s.joy[1] = Joy[1];
+  s.cpu = Cpu, s.mind = CpuMind, s.spacing = Spacing, s.camera = FightCamera, s.draw = Draw;
+  s.shell = Shell, s.frame_count = frame_count;
+  Move_Save(&s.move);
+}
+
+inline void restore(const Saved& s) {
+  fighters[0] = s.fighters[0], fighters[1] = s.fighters[1];
+  Match = s.match, Effects = s.effects, Hits = s.hits, Replay = s.replay;
+  Players[0] = s.players[0], Players[1] = s.players[1];
+  Joy[0] = s.joy[0], Joy[1] = s.joy[1];
+  Cpu = s.cpu, CpuMind = s.mind, Spacing = s.spacing, FightCamera = s.camera, Draw = s.draw;
+  Shell = s.shell, frame_count = s.frame_count;
+  Move_Restore(s.move);
 }
 
 }  // namespace sim
