@@ -1,7 +1,8 @@
 // The tournament: each ordered pair of different characters (first colours) fights a number
-// of rounds with the computer on both sides, stepped as an undrawn fight frame steps them:
-// poses and part boxes, the fight's update, its clock. A round ends at the deciding blow or
-// when the clock runs out.
+// of rounds with the computer on both sides, each fight frame stepped as a drawn one runs it
+// with the pictures left out (every state change the drawing makes included), so a round plays
+// frame for frame as a player would watch it. A round ends at the deciding blow or when the
+// clock runs out.
 #include "review/review_tournament.h"
 
 #include <algorithm>

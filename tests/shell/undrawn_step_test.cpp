@@ -24,7 +24,7 @@
 
 namespace {
 
-constexpr int kFrames = 4000;  // a knock-out near 1850, the win pose near 2300, a next round
+constexpr int kFrames = 4000;  // the knock-out, the win pose and well into a next round
 constexpr int kLevel = 70;  // the tournament's computer level
 
 // The records compared after every frame, each hashed on its own so that a mismatch names it.
@@ -140,6 +140,10 @@ class UndrawnStep : public ::testing::Test {
 };
 
 TEST_F(UndrawnStep, PlaysTheDrawnFightFrameForFrame) {
+  // A few blows from the end, whoever lands them: the knock-out comes early whatever the fighters'
+  // balance, and the next round starts with full bars.
+  for (Fighter& f : fighters) f.damage = f.life - 15;
+  sim::save(*start_);
   Seen drawn_seen, undrawn_seen;
   const std::vector<FrameHashes> drawn = play(true, drawn_seen);
   ASSERT_TRUE(drawn_seen.knock_out) << "the fight should reach a knock-out";

@@ -49,7 +49,7 @@ constexpr Style kStyles[15] = {
     {1.00f, 1.10f, false, A::VictoryArms,   A::VictoryFist},  // 8
     {0.85f, 1.03f, true,  A::VictoryBlade,  A::VictoryPoint},  // 9
     {0.80f, 1.12f, false, A::VictoryPoint,  A::VictoryStance},  // 10
-    {1.00f, 1.09f, false, A::VictoryBow,    A::VictoryPoint},  // 11
+    {0.93f, 1.09f, false, A::VictoryBow,    A::VictoryPoint},  // 11
     {0.95f, 1.07f, false, A::VictoryHips,   A::VictoryStance},  // 12
     {1.10f, 1.18f, true,  A::VictoryBlade,  A::VictoryFist},  // 13
     {0.75f, 1.20f, false, A::VictoryHips,   A::VictoryArms},  // 14
