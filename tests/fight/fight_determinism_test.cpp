@@ -2,15 +2,13 @@
 // for frame, and a fight saved and restored plays on exactly as it did.
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 #include <memory>
 #include <vector>
 
 #include "cpu/cpu.h"
 #include "fight/fight_hit.h"
 #include "fight/fight_replay.h"
-#include "fight/fight_sim.h"
+#include "fight/fight_sim_test.h"
 #include "input/input.h"
 #include "render/render_effect.h"
 #include "support/test_support.h"
@@ -19,18 +17,10 @@ namespace {
 
 constexpr int kFrames = 1500;
 
-class Determinism : public ::testing::Test {
+class Determinism : public sim::FightTest {
  protected:
   void SetUp() override {
-    char cwd[1024];
-    ASSERT_NE(getcwd(cwd, sizeof cwd), nullptr);
-    old_dir_ = cwd;
-    Headless_ResetInput();
-    if (!sim::load_fight(VALDRUNE_DATA_DIR, 0, 9)) GTEST_SKIP() << "no data set at " VALDRUNE_DATA_DIR;
-  }
-  void TearDown() override {
-    Headless_ResetInput();
-    ASSERT_EQ(chdir(old_dir_.c_str()), 0);
+    if (!load(0, 9)) GTEST_SKIP() << "no data set at " VALDRUNE_DATA_DIR;
   }
 
   // The match from its first fight frame, played for `frames` frames; the hash of every frame.
@@ -53,8 +43,6 @@ class Determinism : public ::testing::Test {
     }
     return hashes;
   }
-
-  std::string old_dir_;
 };
 
 TEST_F(Determinism, TheSameKeysGiveTheSameFightEveryFrame) {

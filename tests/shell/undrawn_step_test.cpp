@@ -4,10 +4,7 @@
 // knock-out, the closing replay, the win pose and the next round.
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 #include <memory>
-#include <string>
 #include <vector>
 
 #include "camera/camera_fight.h"
@@ -16,7 +13,7 @@
 #include "fight/fight_hit.h"
 #include "fight/fight_moves.h"
 #include "fight/fight_replay.h"
-#include "fight/fight_sim.h"
+#include "fight/fight_sim_test.h"
 #include "input/input.h"
 #include "render/render_effect.h"
 #include "render/render_fighter.h"
@@ -79,14 +76,10 @@ void note(Seen& seen) {
   for (const HitEffect& e : Effects.Hit_Effect) seen.effects |= e.active != 0;
 }
 
-class UndrawnStep : public ::testing::Test {
+class UndrawnStep : public sim::FightTest {
  protected:
   void SetUp() override {
-    char cwd[1024];
-    ASSERT_NE(getcwd(cwd, sizeof cwd), nullptr);
-    old_dir_ = cwd;
-    Headless_ResetInput();
-    if (!sim::load_fight(VALDRUNE_DATA_DIR, 8, 10)) GTEST_SKIP() << "no data set at " VALDRUNE_DATA_DIR;
+    if (!load(8, 10)) GTEST_SKIP() << "no data set at " VALDRUNE_DATA_DIR;
     build_move_tables();
     // The computer on both sides as the tournament sets it up, three rounds to win: the first
     // round's end leads on to the next round rather than out of the fight.
@@ -101,11 +94,6 @@ class UndrawnStep : public ::testing::Test {
     start_ = std::make_unique<sim::Saved>();
     sim::save(*start_);
   }
-  void TearDown() override {
-    Headless_ResetInput();
-    ASSERT_EQ(chdir(old_dir_.c_str()), 0);
-  }
-
   // The fight from the saved start, drawn (the pacer never behind on the headless clock) or
   // stepped undrawn as the tournament steps it; the records after every frame.
   std::vector<FrameHashes> play(bool drawn, Seen& seen, int frames = kFrames) {
@@ -136,7 +124,6 @@ class UndrawnStep : public ::testing::Test {
   }
 
   std::unique_ptr<sim::Saved> start_;
-  std::string old_dir_;
 };
 
 TEST_F(UndrawnStep, PlaysTheDrawnFightFrameForFrame) {
