@@ -22,7 +22,9 @@ class FightTest : public ::testing::Test {
   }
   void TearDown() override {
     Headless_ResetInput();
-    if (!old_dir_.empty()) ASSERT_EQ(chdir(old_dir_.c_str()), 0);
+    if (!old_dir_.empty()) {
+      ASSERT_EQ(chdir(old_dir_.c_str()), 0);
+    }
   }
   std::string old_dir_;
 };
