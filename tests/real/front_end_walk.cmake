@@ -5,21 +5,12 @@
 # (an SDL virtual joystick): start, the d-pad and a face button take a player to a match.
 # Pictures of each step are kept in WORK/shots.
 include(${SRC}/support/scenario.cmake)
-game_data(data)
-if(NOT EXISTS ${data}/OPEN_POS.CAM)
-  message(STATUS "no generated data set: the front end's walk is skipped")
-  return()
-endif()
+include(${SRC}/support/mode_runs.cmake)
+generated_data(data "the front end's walk")
 
-# The game writes OPTION.CFG where it runs: a directory of links to the data set.
-file(MAKE_DIRECTORY ${WORK}/run ${WORK}/shots)
-file(GLOB files ${data}/*)
-foreach(f IN LISTS files)
-  get_filename_component(name ${f} NAME)
-  if(NOT name STREQUAL "OPTION.CFG")
-    file(CREATE_LINK ${f} ${WORK}/run/${name} SYMBOLIC)
-  endif()
-endforeach()
+# The game writes OPTION.CFG where it runs: a directory of links to the data set (WORK/run).
+linked_data(run)
+file(MAKE_DIRECTORY ${WORK}/shots)
 
 file(WRITE ${WORK}/drive.sh "
 cd '${WORK}/run'

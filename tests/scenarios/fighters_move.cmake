@@ -3,10 +3,7 @@
 # attack, which ends back in the idle; a quarter circle forward with button 1 starts the
 # character's special move of that command.
 include(${SRC}/support/scenario.cmake)
-game_data(data)
-if(NOT EXISTS ${data}/life.bmp)
-  return()  # the minimal data set has no fight
-endif()
+generated_data(data "the moving fighters")
 file(WRITE ${WORK}/moves.txt
   "150 down G\n200 up G\n205 down D\n215 up D\n"
   "240 tap TAB\n330 tap Q\n420 tap CAPSLOCK\n510 tap A\n"

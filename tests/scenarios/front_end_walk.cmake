@@ -4,11 +4,7 @@
 # against the computer lost on purpose, the continue offer left to run out, game over, title.
 include(${SRC}/support/scenario.cmake)
 include(${SRC}/support/mode_runs.cmake)
-game_data(data)
-if(NOT EXISTS ${data}/OPEN_POS.CAM)
-  message(STATUS "no generated data set: the front end's walk is skipped")
-  return()
-endif()
+generated_data(data "the front end's walk")
 
 # Modes: -1 title, 0 select, 1 match set-up, 2 fight, 3 continue, 5 opening, 8 ranking,
 # 9 demonstration set-up.

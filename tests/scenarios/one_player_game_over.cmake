@@ -4,11 +4,7 @@
 # the attract show (a demonstration, the title, the rankings).
 include(${SRC}/support/scenario.cmake)
 include(${SRC}/support/mode_runs.cmake)
-game_data(data)
-if(NOT EXISTS ${data}/OPEN_POS.CAM OR NOT EXISTS ${data}/life.bmp)
-  message(STATUS "no generated data set: the one-player game is skipped")
-  return()
-endif()
+generated_data(data "the one-player game")
 linked_data(data)
 
 run_modes(run ${data} 60000 --script ${SRC}/scenarios/scripts/one_player_run.txt

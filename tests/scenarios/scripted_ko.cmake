@@ -3,10 +3,7 @@
 # the victory pose the next round starts), and the same script run twice traces byte for byte
 # the same fight.
 include(${SRC}/support/scenario.cmake)
-game_data(data)
-if(NOT EXISTS ${data}/life.bmp)
-  return()  # the minimal data set has no fight
-endif()
+generated_data(data "the scripted match")
 set(script ${SRC}/scenarios/scripts/forward_kicks.txt)
 foreach(run 1 2)
   run_headless(r ${data} --start fight:0:9 --script ${script} --frames 1800 --draw-shots-only

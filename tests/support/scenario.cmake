@@ -49,3 +49,14 @@ function(game_data var)
   endif()
   set(${var} ${data} PARENT_SCOPE)
 endfunction()
+
+# generated_data(<var> <what>): the generated data set in <var>; in a build without one (the
+# minimal set has no fighters, no fight pictures and no opening), says that <what> is skipped
+# and ends the calling scenario (a macro, so its return() leaves the caller).
+macro(generated_data var what)
+  game_data(${var})
+  if(NOT EXISTS ${${var}}/OPEN_POS.CAM OR NOT EXISTS ${${var}}/life.bmp)
+    message(STATUS "no generated data set: ${what} is skipped")
+    return()
+  endif()
+endmacro()
